@@ -1,0 +1,19 @@
+// main() of the headless tool.
+#include <filesystem>
+#include <iostream>
+#include <string>
+#include <system_error>
+#include <vector>
+
+#include "check/Check.h"
+
+int main(int argc, char** argv) {
+    std::ios::sync_with_stdio(false);
+    std::error_code error;
+    std::filesystem::path program = std::filesystem::canonical("/proc/self/exe", error);
+    if (error) {
+        program = std::filesystem::absolute(argv[0], error);
+    }
+    return tarnvik::Run_check(std::vector<std::string>(argv + 1, argv + argc), program.parent_path(), std::cin, std::cout,
+                              std::cerr);
+}

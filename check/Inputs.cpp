@@ -1,0 +1,144 @@
+#include "check/Inputs.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+#include <limits>
+
+#include <nlohmann/json.hpp>
+
+#include "calc/StateFields.h"
+#include "check/Options.h"
+
+namespace tarnvik {
+
+namespace {
+
+using Json = nlohmann::ordered_json;
+
+template <class... F> struct Overloaded : F... {
+    using F::operator()...;
+};
+template <class... F> Overloaded(F...) -> Overloaded<F...>;
+
+[[noreturn]] void Refuse(const std::string& name, const std::string& expected, const std::string& got) {
+    throw UsageError{name + ": expected " + expected + ", got " + got};
+}
+
+std::string Quoted(const std::string& text) {
+    return "\"" + text + "\"";
+}
+
+// The nearest 32-bit float.
+float To_float(const std::string& name, double value, const std::string& shown) {
+    constexpr double limit = 0x1.ffffffp127;
+    if (!(value > -limit && value < limit)) {
+        Refuse(name, "a number that a 32-bit float holds", shown);
+    }
+    return static_cast<float>(value);
+}
+
+std::int16_t To_int16(const std::string& name, double value, const std::string& shown) {
+    if (std::trunc(value) != value || value < std::numeric_limits<std::int16_t>::min() ||
+        value > std::numeric_limits<std::int16_t>::max()) {
+        Refuse(name, "a whole number from -32768 to 32767", shown);
+    }
+    return static_cast<std::int16_t>(value);
+}
+
+// The whole text has to be one number; a comma serves as the decimal mark as it does in the program.
+double To_number(const std::string& name, const std::string& text) {
+    std::string number = text;
+    std::replace(number.begin(), number.end(), ',', '.');
+    const bool plus = !number.empty() && number.front() == '+' && number.size() > 1 && number[1] != '-';
+    double value = 0.0;
+    const char* begin = number.data() + (plus ? 1 : 0);
+    const char* end = number.data() + number.size();
+    const auto [stop, error] = std::from_chars(begin, end, value);
+    if (error == std::errc::invalid_argument || stop != end || !std::isfinite(value)) {
+        Refuse(name, "a number", Quoted(text));
+    }
+    if (error == std::errc::result_out_of_range) {
+        Refuse(name, "a number that a 32-bit float holds", Quoted(text));
+    }
+    return value;
+}
+
+bool To_flag(const std::string& name, const std::string& text) {
+    if (text == "true" || text == "-1") {
+        return true;
+    }
+    if (text == "false" || text == "0") {
+        return false;
+    }
+    Refuse(name, "true or false", Quoted(text));
+}
+
+const StateField& Input(const std::string& name) {
+    const StateField* field = Find_state_field(name);
+    if (field == nullptr || !field->is_input) {
+        throw UsageError{Quoted(name) + " is no input; see tarnvik-check --help"};
+    }
+    return *field;
+}
+
+void After_write(ConnectionState& s, const std::string& name) {
+    if (name == "Bulldog_index") {
+        Get_dc(s);
+    }
+}
+
+} // namespace
+
+void Set_input(ConnectionState& s, const std::string& name, const std::string& value) {
+    std::visit(Overloaded{
+                   [&](float ConnectionState::*member) {
+                       s.*member = To_float(name, To_number(name, value), Quoted(value));
+                   },
+                   [&](std::int16_t ConnectionState::*member) {
+                       s.*member = To_int16(name, To_number(name, value), Quoted(value));
+                   },
+                   [&](bool ConnectionState::*member) { s.*member = To_flag(name, value); },
+                   [&](std::string_view ConnectionState::*) {}, // labels are results
+                   [&](auto member) { s.*member = std::string_view{value}; },
+               },
+               Input(name).member);
+    After_write(s, name);
+}
+
+void Set_inputs(ConnectionState& s, const Json& inputs) {
+    if (!inputs.is_object()) {
+        throw UsageError{"expected an object of inputs, got " + inputs.dump(-1, ' ', false, Json::error_handler_t::replace)};
+    }
+    for (const auto& [name, value] : inputs.items()) {
+        const std::string shown = value.dump(-1, ' ', false, Json::error_handler_t::replace);
+        const auto number = [&value = value, &name = name, &shown] {
+            if (!value.is_number()) {
+                Refuse(name, "a number", shown);
+            }
+            return value.template get<double>();
+        };
+        std::visit(Overloaded{
+                       [&](float ConnectionState::*member) { s.*member = To_float(name, number(), shown); },
+                       [&](std::int16_t ConnectionState::*member) { s.*member = To_int16(name, number(), shown); },
+                       [&](bool ConnectionState::*member) {
+                           if (value.is_boolean()) {
+                               s.*member = value.template get<bool>();
+                           } else {
+                               s.*member = To_flag(name, shown);
+                           }
+                       },
+                       [&](std::string_view ConnectionState::*) {}, // labels are results
+                       [&](auto member) {
+                           if (!value.is_string()) {
+                               Refuse(name, "a text", shown);
+                           }
+                           s.*member = std::string_view{value.template get_ref<const std::string&>()};
+                       },
+                   },
+                   Input(name).member);
+        After_write(s, name);
+    }
+}
+
+} // namespace tarnvik

@@ -1,0 +1,19 @@
+// Inputs by name: from the command line as text, from a batch line as JSON.
+#pragma once
+
+#include <string>
+
+#include <nlohmann/json_fwd.hpp>
+
+#include "calc/GlobalParameter.h"
+
+namespace tarnvik {
+
+// A plain write to an input of the state, with one exception: Bulldog_index also sets dc, as picking the connector does.
+// Errors: throws UsageError that names the input and what was expected.
+void Set_input(ConnectionState& s, const std::string& name, const std::string& value);
+
+// Every member of the object, in its order. Errors: throws UsageError.
+void Set_inputs(ConnectionState& s, const nlohmann::ordered_json& inputs);
+
+} // namespace tarnvik

@@ -1,0 +1,234 @@
+#include "check/Json.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include <nlohmann/json.hpp>
+
+#include "calc/StateFields.h"
+
+namespace tarnvik {
+
+namespace {
+
+void Append_value(std::string& json, float value) {
+    if (value == 0.0F && std::signbit(value)) {
+        json += "-0.0"; // most readers take "-0" for an integer and lose the sign
+    } else if (std::isfinite(value)) {
+        json += Shortest(value).View();
+    } else {
+        json += "null"; // JSON has no infinity and no NaN; they come from a damaged project only
+    }
+}
+
+void Append_value(std::string& json, int value) {
+    json += std::to_string(value);
+}
+
+void Append_value(std::string& json, std::int16_t value) {
+    Append_value(json, static_cast<int>(value));
+}
+
+void Append_value(std::string& json, std::uint32_t value) {
+    json += std::to_string(value);
+}
+
+void Append_value(std::string& json, bool value) {
+    json += value ? "true" : "false";
+}
+
+void Append_value(std::string& json, std::string_view value) {
+    Append_json(json, value);
+}
+
+void Append_value(std::string& json, const std::string& value) {
+    Append_json(json, value);
+}
+
+template <std::size_t N> void Append_value(std::string& json, const FixedText<N>& value) {
+    Append_json(json, value.View());
+}
+
+// Members of an object or elements of an array, with the commas between them.
+class List {
+public:
+    List(std::string& json, char open, char close) : json_(json), close_(close) { json_ += open; }
+    List(const List&) = delete;
+    List& operator=(const List&) = delete;
+    ~List() { json_ += close_; }
+
+    void Next() {
+        if (!first_) {
+            json_ += ',';
+        }
+        first_ = false;
+    }
+    void Name(std::string_view name) {
+        Next();
+        Append_json(json_, name);
+        json_ += ':';
+    }
+    template <class Value> void Member(std::string_view name, const Value& value) {
+        Name(name);
+        Append_value(json_, value);
+    }
+
+private:
+    std::string& json_;
+    char close_;
+    bool first_{true};
+};
+
+void Append_field(std::string& json, List& object, const ConnectionState& s, const StateField& field) {
+    object.Name(field.name);
+    std::visit([&](auto member) { Append_value(json, s.*member); }, field.member);
+}
+
+void Append_materials(std::string& json, const ConnectionState& s) {
+    List rows{json, '[', ']'};
+    for (int i = 0; i <= std::min<int>(s.Mat_count, mat_rows - 1); ++i) {
+        const MatRecord& row = s.Mat[static_cast<std::size_t>(i)];
+        rows.Next();
+        List object{json, '{', '}'};
+        object.Member("Id", row.Id);
+        object.Member("Type", row.Type);
+        object.Member("Standard", row.Standard);
+        object.Member("fmk", row.fmk);
+        object.Member("fc0k", row.fc0k);
+        object.Member("fc90k", row.fc90k);
+        object.Member("fvk", row.fvk);
+        object.Member("E0_mean", row.E0_mean);
+        object.Member("E0_05", row.E0_05);
+        object.Member("G", row.G);
+        object.Member("dens", row.dens);
+        object.Member("s_fac", row.s_fac);
+    }
+}
+
+void Append_profiles(std::string& json, const ConnectionState& s) {
+    List rows{json, '[', ']'};
+    for (int i = 0; i <= std::min<int>(s.Prof1_count, prof_rows - 1); ++i) {
+        const ProfRecord& row = s.Prof[static_cast<std::size_t>(i)];
+        rows.Next();
+        List object{json, '{', '}'};
+        object.Member("Id", row.Id);
+        object.Member("Type", row.Type);
+        object.Member("Standard", row.Standard);
+        object.Member("b", row.b);
+        object.Member("h", row.h);
+    }
+}
+
+void Append_setup(std::string& json, const SetupRecord& setup) {
+    List object{json, '{', '}'};
+    object.Member("Language", setup.Language);
+    object.Name("Setup_line");
+    {
+        List lines{json, '[', ']'};
+        for (const std::string& line : setup.Setup_line) {
+            lines.Next();
+            Append_json(json, line);
+        }
+    }
+    object.Member("gam_timb", setup.gam_timb);
+    object.Member("gam_lam", setup.gam_lam);
+    object.Member("gam_kerto", setup.gam_kerto);
+    object.Member("gam_k-bjelke", setup.gam_k_bjelke);
+}
+
+void Append_state(std::string& json, const Options& options, const ConnectionState& s) {
+    List object{json, '{', '}'};
+    if (!options.fields) {
+        for (const StateField& field : State_fields()) {
+            Append_field(json, object, s, field);
+        }
+        return;
+    }
+    for (const std::string& name : *options.fields) {
+        if (const StateField* field = Find_state_field(name)) {
+            Append_field(json, object, s, *field);
+            continue;
+        }
+        object.Name(name);
+        if (name == "Mat") {
+            Append_materials(json, s);
+        } else if (name == "Prof") {
+            Append_profiles(json, s);
+        } else {
+            Append_setup(json, s.Setup);
+        }
+    }
+}
+
+void Append_screen(std::string& json, const Screen& screen) {
+    List controls{json, '{', '}'};
+    for (std::size_t i = 0; i < control_count; ++i) {
+        const ControlView& view = screen.controls[i];
+        controls.Name(Control_name(static_cast<Control>(i)));
+        List object{json, '{', '}'};
+        const auto member = [&object](std::string_view name, const auto& value) {
+            if (value) {
+                object.Member(name, *value);
+            }
+        };
+        member("caption", view.caption);
+        member("visible", view.visible);
+        member("enabled", view.enabled);
+        member("bold", view.bold);
+        member("fore", view.fore);
+        member("back", view.back);
+        member("index", view.index);
+    }
+}
+
+} // namespace
+
+void Append_json(std::string& json, std::string_view text) {
+    const bool plain = std::all_of(text.begin(), text.end(), [](char c) {
+        const auto byte = static_cast<unsigned char>(c);
+        return byte >= 0x20 && byte < 0x7F && c != '"' && c != '\\';
+    });
+    if (plain) {
+        json += '"';
+        json += text;
+        json += '"';
+    } else {
+        json += nlohmann::json(text).dump(-1, ' ', false, nlohmann::json::error_handler_t::replace);
+    }
+}
+
+void Append_result(std::string& json, const Options& options, const std::string& project, const ConnectionState& s,
+                   const Screen& screen, const PassResult& result, const RecordingMessageBox& box) {
+    List object{json, '{', '}'};
+    if (!project.empty()) {
+        object.Member("project", project);
+    }
+    object.Member("end", Pass_end_name(result.end));
+    if (result.fault) {
+        object.Name("fault");
+        List fault{json, '{', '}'};
+        fault.Member("number", result.fault->number);
+        fault.Member("description", result.fault->description);
+        fault.Member("where", result.fault->where);
+    }
+    object.Name("messages");
+    {
+        List messages{json, '[', ']'};
+        for (const auto& message : box.messages) {
+            messages.Next();
+            List shown{json, '{', '}'};
+            shown.Member("text", message.text);
+            shown.Member("style", message.style);
+        }
+    }
+    object.Name("state");
+    Append_state(json, options, s);
+    for (const std::string& group : options.with) {
+        object.Name(group);
+        if (group == "screen") {
+            Append_screen(json, screen);
+        }
+    }
+}
+
+} // namespace tarnvik

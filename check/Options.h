@@ -1,0 +1,36 @@
+// The command line of tarnvik-check.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace tarnvik {
+
+struct Options {
+    std::string data;                // --data; empty: the program's folder
+    std::optional<std::string> lang; // --lang
+    std::vector<std::pair<std::string, std::string>> set;
+    bool json{};
+    bool batch{};
+    bool help{};
+    bool version{};
+    std::vector<std::string> with;                 // groups
+    std::optional<std::vector<std::string>> fields; // names of the state
+    std::optional<std::string> save;
+    std::vector<std::string> projects;
+};
+
+// What is wrong with a command line or an input, in words for the user.
+struct UsageError {
+    std::string text;
+};
+
+// Errors: throws UsageError.
+Options Parse_options(const std::vector<std::string>& arguments);
+
+// The text of --help.
+std::string Help_text();
+
+} // namespace tarnvik

@@ -1,0 +1,14 @@
+// Start values of a new project.
+#pragma once
+
+#include <filesystem>
+
+#include "calc/GlobalParameter.h"
+
+namespace tarnvik {
+
+// Gives a new project its every default. The titles follow Lang: "Eng" or "Nor"; another language sets none. dob_1 and
+// dob_2 keep what they are, and the sections come from the profile table in the next pass.
+void StartValue(ConnectionState& s);
+
+} // namespace tarnvik

@@ -14,6 +14,6 @@ int main(int argc, char** argv) {
     if (error) {
         program = std::filesystem::absolute(argv[0], error);
     }
-    return tarnvik::Run_check(std::vector<std::string>(argv + 1, argv + argc), program.parent_path(), std::cin, std::cout,
-                              std::cerr);
+    return tarnvik::Run_check(std::vector<std::string>(argv + 1, argv + argc), program.parent_path(), std::cin,
+                              std::cout, std::cerr);
 }

@@ -93,8 +93,7 @@ void Get_rows_5(ConnectionValues& s) {
 
 void Get_nef(ConnectionValues& s) {
     constexpr std::string_view where = "Main_beregn";
-    s.nef_b_row =
-        Store(Power(s.n_row, 0.9, where) * Power(Divide(s.a1, 13.0 * s.d, where), 0.25, where), where);
+    s.nef_b_row = Store(Power(s.n_row, 0.9, where) * Power(Divide(s.a1, 13.0 * s.d, where), 0.25, where), where);
     if (s.nef_b_row > s.n_row) {
         s.nef_b_row = s.n_row;
     }
@@ -106,8 +105,7 @@ void Get_nef(ConnectionValues& s) {
 void Get_Rd_bolt(ConnectionValues& s, float Rk_bolt) {
     constexpr std::string_view where = "Main_beregn";
     const double number = s.Has_row ? static_cast<double>(s.nef_b) : s.n_bolt;
-    s.Rd_bolt =
-        Store(Divide(static_cast<double>(s.kmod) * Rk_bolt * number * Planes(s), s.gm * 1000.0, where), where);
+    s.Rd_bolt = Store(Divide(static_cast<double>(s.kmod) * Rk_bolt * number * Planes(s), s.gm * 1000.0, where), where);
 }
 
 void Get_Rd_for(ConnectionValues& s, float Rk_for) {

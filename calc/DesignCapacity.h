@@ -6,8 +6,8 @@
 
 namespace tarnvik {
 
-// Has_row, a1, n_row and rows by Case_code, for the connection types 1 to 5. A case without a row of fasteners along the
-// grain, or of another type, sets nothing. The spacing is the bolts' value, also with connectors.
+// Has_row, a1, n_row and rows by Case_code, for the connection types 1 to 5. A case without a row of fasteners along
+// the grain, or of another type, sets nothing. The spacing is the bolts' value, also with connectors.
 void Get_rows_1(ConnectionValues& s);
 void Get_rows_2(ConnectionValues& s);
 void Get_rows_3(ConnectionValues& s);

@@ -98,20 +98,20 @@ struct ConnectionValues : SpacingRecord {
     std::int16_t n_row{}, rows{};  // fasteners in a row along the grain, number of such rows
 
     // Load and manual splitting input
-    float P{10.0F};    // design force, kN: positive is compression, negative is tension
-    bool Man_he_on{};  // he is typed by the user
-    float man_he{};    // the typed value, mm
+    float P{10.0F};   // design force, kN: positive is compression, negative is tension
+    bool Man_he_on{}; // he is typed by the user
+    float man_he{};   // the typed value, mm
 
     // Bolt capacity per shear plane (calc/Shear.h)
-    float t1{}, t2{};                                         // thicknesses of the formulas, mm
-    std::string_view t1_txt{}, t2_txt{};                      // their labels
-    float alp1{}, alp2{};                                     // angles of force to grain in t1 and t2, degrees
-    float k90{};                                              // (8.33)
-    float fh0k{}, fh1k{}, fh2k{}, beta{};                     // embedment strengths, N/mm2, and their ratio
-    float My_Rk{};                                            // yield moment, Nmm
-    float Fax_bolt{}, Fax_skive{}, Fax_min{};                 // axial capacities of bolt and washer, N
-    float Fv_a{}, Fv_b{}, Fv_c{}, Fv_d{}, Fv_e{}, Fv_f{};     // single shear modes, N
-    float Fv_g{}, Fv_h{}, Fv_j{}, Fv_k{};                     // double shear modes, N
+    float t1{}, t2{};                                     // thicknesses of the formulas, mm
+    std::string_view t1_txt{}, t2_txt{};                  // their labels
+    float alp1{}, alp2{};                                 // angles of force to grain in t1 and t2, degrees
+    float k90{};                                          // (8.33)
+    float fh0k{}, fh1k{}, fh2k{}, beta{};                 // embedment strengths, N/mm2, and their ratio
+    float My_Rk{};                                        // yield moment, Nmm
+    float Fax_bolt{}, Fax_skive{}, Fax_min{};             // axial capacities of bolt and washer, N
+    float Fv_a{}, Fv_b{}, Fv_c{}, Fv_d{}, Fv_e{}, Fv_f{}; // single shear modes, N
+    float Fv_g{}, Fv_h{}, Fv_j{}, Fv_k{};                 // double shear modes, N
     // Connectors (calc/Connector.h)
     float Fv_Rk{}; // one connector per shear plane, kN
     // Effective numbers, design capacities, utilisation (calc/DesignCapacity.h)
@@ -120,8 +120,8 @@ struct ConnectionValues : SpacingRecord {
     float Rd_bolt{}, Rd_for{};  // design capacities of bolts and connectors, kN
     float uf{};                 // utilisation
     // Splitting (calc/Splitting.h)
-    float he{};                                    // loaded edge to the farthest bolt, mm
-    float F90_Rd{}, P_sin{}, Tverr_kontroll{};     // capacity, force across the grain, kN; utilisation
+    float he{};                                // loaded edge to the farthest bolt, mm
+    float F90_Rd{}, P_sin{}, Tverr_kontroll{}; // capacity, force across the grain, kN; utilisation
 };
 
 // A row of the material table. The calculation reads Type, fc90k and dens; Standard, G and s_fac are never filled.

@@ -100,22 +100,20 @@ void Enkeltsnitt_Rk(ConnectionValues& s, float fh1k, float fh2k, float beta, flo
     s.Fv_b = Store(t2 * fh2k * d, where);
 
     const double r = Divide(t2, t1, where);
-    const float c0 = Store(Divide(d * fh * t1, be + 1.0, where) *
-                               (Root(be + 2.0 * Square(be) * (1.0 + r + Square(r)) + be * be * be * Square(r), where) -
-                                (r + 1.0) * be),
-                           where);
-    const float d0 = Store(Divide(1.05 * d * fh * t1, be + 2.0, where) *
-                               (Root(2.0 * be * (be + 1.0) + Divide(4.0 * be * (be + 2.0) * My, Square(t1) * d * fh, where),
-                                     where) -
-                                be),
-                           where);
-    const float e0 =
-        Store(Divide(1.05 * d * fh * t2, 2.0 * be + 1.0, where) *
-                  (Root(2.0 * Square(be) * (be + 1.0) +
-                            Divide(4.0 * be * (2.0 * be + 1.0) * My, Square(t2) * d * fh, where),
-                        where) -
-                   be),
-              where);
+    const float c0 = Store(
+        Divide(d * fh * t1, be + 1.0, where) *
+            (Root(be + 2.0 * Square(be) * (1.0 + r + Square(r)) + be * be * be * Square(r), where) - (r + 1.0) * be),
+        where);
+    const float d0 = Store(
+        Divide(1.05 * d * fh * t1, be + 2.0, where) *
+            (Root(2.0 * be * (be + 1.0) + Divide(4.0 * be * (be + 2.0) * My, Square(t1) * d * fh, where), where) - be),
+        where);
+    const float e0 = Store(
+        Divide(1.05 * d * fh * t2, 2.0 * be + 1.0, where) *
+            (Root(2.0 * Square(be) * (be + 1.0) + Divide(4.0 * be * (2.0 * be + 1.0) * My, Square(t2) * d * fh, where),
+                  where) -
+             be),
+        where);
     const float f0 =
         Store(1.15 * Root(Divide(2.0 * be, be + 1.0, where), where) * Root(2.0 * My * fh * d, where), where);
 
@@ -141,11 +139,10 @@ void Dobbeltsnitt_Rk(ConnectionValues& s, float fh1k, float fh2k, float beta, fl
     s.Fv_g = Store(t1 * fh * d, where);
     s.Fv_h = Store(0.5 * fh2k * t2 * d, where);
 
-    const float j0 = Store(Divide(1.05 * d * fh * t1, be + 2.0, where) *
-                               (Root(2.0 * be * (be + 1.0) + Divide(4.0 * be * (be + 2.0) * My, Square(t1) * d * fh, where),
-                                     where) -
-                                be),
-                           where);
+    const float j0 = Store(
+        Divide(1.05 * d * fh * t1, be + 2.0, where) *
+            (Root(2.0 * be * (be + 1.0) + Divide(4.0 * be * (be + 2.0) * My, Square(t1) * d * fh, where), where) - be),
+        where);
     const float k0 =
         Store(1.15 * Root(Divide(2.0 * be, be + 1.0, where), where) * Root(2.0 * My * fh * d, where), where);
 

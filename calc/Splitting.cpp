@@ -17,8 +17,8 @@ struct LoadedEdge {
     float V::*tension;     // P at or below 0
 };
 
-// he is the height of the member less this distance: the loaded edge to the farthest bolt. Type 5 is the mirror of types 2 to
-// 4: there the loaded edge changes sides with the sign of the force.
+// he is the height of the member less this distance: the loaded edge to the farthest bolt. Type 5 is the mirror of
+// types 2 to 4: there the loaded edge changes sides with the sign of the force.
 // clang-format off
 constexpr std::array<LoadedEdge, 35> edge_table{{
     //          compression  tension

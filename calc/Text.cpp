@@ -98,8 +98,8 @@ float Numeric_value(std::string_view number, std::string_view where) {
 } // namespace
 
 std::size_t Character_count(std::string_view utf8) {
-    return static_cast<std::size_t>(
-        std::count_if(utf8.begin(), utf8.end(), [](char c) { return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U; }));
+    return static_cast<std::size_t>(std::count_if(
+        utf8.begin(), utf8.end(), [](char c) { return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U; }));
 }
 
 std::string_view First_characters(std::string_view utf8, std::size_t n) {
@@ -192,7 +192,8 @@ ShortText Format(float value, std::string_view picture) {
     }
 
     std::array<char, 64> buffer{};
-    const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), rounded, std::chars_format::fixed, 0).ptr;
+    const auto end =
+        std::to_chars(buffer.data(), buffer.data() + buffer.size(), rounded, std::chars_format::fixed, 0).ptr;
     std::string_view number{buffer.data(), static_cast<std::size_t>(end - buffer.data())};
     const bool zero = number == "0";
 

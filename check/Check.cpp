@@ -200,7 +200,8 @@ int Run_check(const std::vector<std::string>& arguments, const std::filesystem::
             out << "tarnvik-check " << version << "\n";
             return exit_holds;
         }
-        const std::filesystem::path folder = options.data.empty() ? program_folder : std::filesystem::path{options.data};
+        const std::filesystem::path folder =
+            options.data.empty() ? program_folder : std::filesystem::path{options.data};
         return Tool{std::move(options), in, out, err}.Run(folder);
     } catch (const UsageError& error) {
         err << "tarnvik-check: " << error.text << "\n";

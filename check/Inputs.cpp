@@ -16,9 +16,7 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 
-template <class... F> struct Overloaded : F... {
-    using F::operator()...;
-};
+template <class... F> struct Overloaded : F... { using F::operator()...; };
 template <class... F> Overloaded(F...) -> Overloaded<F...>;
 
 [[noreturn]] void Refuse(const std::string& name, const std::string& expected, const std::string& got) {
@@ -91,24 +89,24 @@ void After_write(ConnectionState& s, const std::string& name) {
 } // namespace
 
 void Set_input(ConnectionState& s, const std::string& name, const std::string& value) {
-    std::visit(Overloaded{
-                   [&](float ConnectionState::*member) {
-                       s.*member = To_float(name, To_number(name, value), Quoted(value));
-                   },
-                   [&](std::int16_t ConnectionState::*member) {
-                       s.*member = To_int16(name, To_number(name, value), Quoted(value));
-                   },
-                   [&](bool ConnectionState::*member) { s.*member = To_flag(name, value); },
-                   [&](std::string_view ConnectionState::*) {}, // labels are results
-                   [&](auto member) { s.*member = std::string_view{value}; },
-               },
-               Input(name).member);
+    std::visit(
+        Overloaded{
+            [&](float ConnectionState::*member) { s.*member = To_float(name, To_number(name, value), Quoted(value)); },
+            [&](std::int16_t ConnectionState::*member) {
+                s.*member = To_int16(name, To_number(name, value), Quoted(value));
+            },
+            [&](bool ConnectionState::*member) { s.*member = To_flag(name, value); },
+            [&](std::string_view ConnectionState::*) {}, // labels are results
+            [&](auto member) { s.*member = std::string_view{value}; },
+        },
+        Input(name).member);
     After_write(s, name);
 }
 
 void Set_inputs(ConnectionState& s, const Json& inputs) {
     if (!inputs.is_object()) {
-        throw UsageError{"expected an object of inputs, got " + inputs.dump(-1, ' ', false, Json::error_handler_t::replace)};
+        throw UsageError{"expected an object of inputs, got " +
+                         inputs.dump(-1, ' ', false, Json::error_handler_t::replace)};
     }
     for (const auto& [name, value] : inputs.items()) {
         const std::string shown = value.dump(-1, ' ', false, Json::error_handler_t::replace);

@@ -9,7 +9,8 @@
 
 namespace tarnvik {
 
-// A plain write to an input of the state, with one exception: Bulldog_index also sets dc, as picking the connector does.
+// A plain write to an input of the state, with one exception: Bulldog_index also sets dc, as picking the connector
+// does.
 // Errors: throws UsageError that names the input and what was expected.
 void Set_input(ConnectionState& s, const std::string& name, const std::string& value);
 

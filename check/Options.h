@@ -16,7 +16,7 @@ struct Options {
     bool batch{};
     bool help{};
     bool version{};
-    std::vector<std::string> with;                 // groups
+    std::vector<std::string> with;                  // groups
     std::optional<std::vector<std::string>> fields; // names of the state
     std::optional<std::string> save;
     std::vector<std::string> projects;

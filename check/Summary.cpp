@@ -100,8 +100,7 @@ void Inputs(std::string& text, const ConnectionState& s) {
     } else {
         Line(text, "Connectors", "none");
     }
-    Line(text, "Design force",
-         Number(std::fabs(s.P), "0.00") + " kN " + (s.P > 0.0F ? "compression" : "tension"));
+    Line(text, "Design force", Number(std::fabs(s.P), "0.00") + " kN " + (s.P > 0.0F ? "compression" : "tension"));
 }
 
 struct Mode {
@@ -116,8 +115,8 @@ void Shear_plane(std::string& text, const ConnectionState& s) {
     } else {
         modes = {{"a", s.Fv_a}, {"b", s.Fv_b}, {"c", s.Fv_c}, {"d", s.Fv_d}, {"e", s.Fv_e}, {"f", s.Fv_f}};
     }
-    const auto least =
-        std::min_element(modes.begin(), modes.end(), [](const Mode& one, const Mode& other) { return one.value < other.value; });
+    const auto least = std::min_element(modes.begin(), modes.end(),
+                                        [](const Mode& one, const Mode& other) { return one.value < other.value; });
     text += "\nCapacity of one bolt per shear plane, characteristic\n";
     for (const Mode& mode : modes) {
         std::string value = Right(Number(mode.value / 1000.0F, "0.00"), 8) + " kN";
@@ -134,9 +133,9 @@ void Shear_plane(std::string& text, const ConnectionState& s) {
 void Design(std::string& text, const ConnectionState& s) {
     text += "\nConnection\n";
     const float bolts = s.Has_row ? s.nef_b : s.n_bolt;
-    Line(text, "effective", Number(bolts, "0.00") + " bolts" +
-                                (s.Med_bulldog ? ", " + Number(s.Has_row ? s.nef_f : s.n_bolt, "0.00") + " connectors"
-                                               : std::string{}));
+    Line(text, "effective",
+         Number(bolts, "0.00") + " bolts" +
+             (s.Med_bulldog ? ", " + Number(s.Has_row ? s.nef_f : s.n_bolt, "0.00") + " connectors" : std::string{}));
     std::string capacity = Number(s.Rd_bolt, "0.00") + " kN";
     if (s.Med_bulldog) {
         capacity = Number(s.Rd_bolt, "0.00") + " kN bolts + " + Number(s.Rd_for, "0.00") + " kN connectors";
@@ -171,7 +170,8 @@ void Sum_line(std::string& text, std::string_view label, float bolts, float conn
 // Every distance of the case as the record holds it, the sum of each family after its last distance.
 void Distances(std::string& text, const ConnectionState& s) {
     text += "\nMinimum distances, mm\n";
-    text += s.Med_bulldog ? "                      bolts                           connectors\n" : "                      bolts\n";
+    text += s.Med_bulldog ? "                      bolts                           connectors\n"
+                          : "                      bolts\n";
     for (int i = 0; i < distance_count; ++i) {
         const DistanceFields& fields = Fields_of(static_cast<Distance>(i));
         if (!(s.*fields.lbl).empty()) {

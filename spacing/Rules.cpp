@@ -632,9 +632,9 @@ constexpr std::string_view where = "Calc_spacing";
 
 // What the rules of one pass have in common.
 struct Terms {
-    double d, D;   // bolt and connector diameter, mm
-    double S, K;   // sine and cosine of the angle between the members
-    float Nd;      // the chosen spacing, mm
+    double d, D; // bolt and connector diameter, mm
+    double S, K; // sine and cosine of the angle between the members
+    float Nd;    // the chosen spacing, mm
     std::string_view chosen;
     float r; // the connectors' spacing along the grain, mm
     bool r_chosen;

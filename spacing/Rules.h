@@ -1,5 +1,6 @@
-// Minimum spacings and edge and end distances of bolts (EN 1995-1-1 table 8.4) and of tooth-plate connectors (tables 8.7
-// to 8.9), laid out over the geometry of each case: every distance as a number in mm and as the text of its rule.
+// Minimum spacings and edge and end distances of bolts (EN 1995-1-1 table 8.4) and of tooth-plate connectors
+// (tables 8.7 to 8.9), laid out over the geometry of each case: every distance as a number in mm and as the text of its
+// rule.
 //
 // Family a lies in member 1, family b in member 2. The first distances of a family lie across the member, from edge to
 // edge, and make its sum; the rest lie along it, the end distance last. Both kinds are computed whatever the connection
@@ -27,8 +28,8 @@ const DistanceFields& Fields_of(Distance distance);
 // Empties all texts of the record and sets all its values to 0.
 void Clear_spacing(SpacingRecord& record);
 
-// The spacing that the user chose: N d and its text, N = Avstand_index + 5; nothing is written for an index outside 0 to
-// 15. d in mm.
+// The spacing that the user chose: N d and its text, N = Avstand_index + 5; nothing is written for an index outside 0
+// to 15. d in mm.
 void Get_N_d(const ConnectionValues& s, float& value, std::string_view& text);
 
 // Fills the record with the distances of a case (a row of the catalogue), from d, dc, alp, P and Avstand_index.

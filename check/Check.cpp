@@ -128,7 +128,7 @@ private:
         int status = exit_holds;
         std::string line;
         std::string json;
-        for (long number = 1; std::getline(in_, line); ++number) {
+        for (long number = 1; out_ && std::getline(in_, line); ++number) {
             static_cast<ConnectionValues&>(*s_) = fresh; // the tables never change in a batch
             *screen = Screen{};
             json.clear();
@@ -202,7 +202,11 @@ int Run_check(const std::vector<std::string>& arguments, const std::filesystem::
         }
         const std::filesystem::path folder =
             options.data.empty() ? program_folder : std::filesystem::path{options.data};
-        return Tool{std::move(options), in, out, err}.Run(folder);
+        const int status = Tool{std::move(options), in, out, err}.Run(folder);
+        if (out.flush()) {
+            return status;
+        }
+        err << "tarnvik-check: the results cannot be written\n";
     } catch (const UsageError& error) {
         err << "tarnvik-check: " << error.text << "\n";
     } catch (const DataFileError& error) {

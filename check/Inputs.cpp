@@ -27,6 +27,17 @@ std::string Quoted(const std::string& text) {
     return "\"" + text + "\"";
 }
 
+// A JSON value as a message shows it. What is nested is named only: its text has no bound, nor has its depth.
+std::string Shown(const Json& value) {
+    if (value.is_array()) {
+        return value.empty() ? "[]" : "an array";
+    }
+    if (value.is_object()) {
+        return value.empty() ? "{}" : "an object";
+    }
+    return value.dump(-1, ' ', false, Json::error_handler_t::replace);
+}
+
 // The nearest 32-bit float.
 float To_float(const std::string& name, double value, const std::string& shown) {
     constexpr double limit = 0x1.ffffffp127;
@@ -109,7 +120,7 @@ void Set_inputs(ConnectionState& s, const Json& inputs) {
                          inputs.dump(-1, ' ', false, Json::error_handler_t::replace)};
     }
     for (const auto& [name, value] : inputs.items()) {
-        const std::string shown = value.dump(-1, ' ', false, Json::error_handler_t::replace);
+        const std::string shown = Shown(value);
         const auto number = [&value = value, &name = name, &shown] {
             if (!value.is_number()) {
                 Refuse(name, "a number", shown);

@@ -37,7 +37,12 @@ public:
         }
     }
     void Number(bool value) { Number(static_cast<std::int16_t>(value ? -1 : 0)); }
-    void Fixed(std::string_view text) { bytes_ += To_windows_1252(text); }
+    // A damaged text may have more bytes than characters: the width of the field is what readers count on.
+    template <std::size_t N> void Fixed(const FixedText<N>& text) {
+        std::string encoded = To_windows_1252(text);
+        encoded.resize(N, ' ');
+        bytes_ += encoded;
+    }
     void Counted(std::string_view text) {
         std::string encoded = To_windows_1252(text);
         if (encoded.size() > 0xFFFFU) { // the length is 16 bits wide

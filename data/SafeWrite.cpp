@@ -106,8 +106,9 @@ void Copy_tail(const fs::path& target, long from, std::FILE* to, std::string_vie
 
 // A name of its own for each process and each try, in the target's folder: a rename works within one file system only.
 fs::path Temporary_name(const fs::path& target, int attempt) {
+    constexpr std::size_t name_part = 200; // the whole name has to stay within the 255 bytes of the file systems
     std::string name{"."};
-    name += target.filename().string();
+    name += target.filename().string().substr(0, name_part);
     name += '.';
 #if __has_include(<unistd.h>)
     name += std::to_string(getpid());
@@ -118,14 +119,29 @@ fs::path Temporary_name(const fs::path& target, int attempt) {
     return target.parent_path() / name;
 }
 
-} // namespace
-
-void Safe_write(const fs::path& path, std::string_view content, OldTail tail, std::string_view where) {
+// The file that a path leads to. A link that leads to nothing yet is followed as well: the file is created at its end.
+fs::path Follow(const fs::path& path) {
     std::error_code error;
     fs::path target = fs::weakly_canonical(path, error);
     if (error || target.empty()) {
         target = path;
     }
+    constexpr int most_links = 40;
+    for (int i = 0; i < most_links && fs::is_symlink(fs::symlink_status(target, error)); ++i) {
+        const fs::path link = fs::read_symlink(target, error);
+        if (error) {
+            break;
+        }
+        target = target.parent_path() / link; // an absolute link replaces the folder
+    }
+    return target;
+}
+
+} // namespace
+
+void Safe_write(const fs::path& path, std::string_view content, OldTail tail, std::string_view where) {
+    std::error_code error;
+    const fs::path target = Follow(path);
     if (!target.has_filename() || fs::is_directory(target, error)) {
         Raise(fault_path_access, where);
     }

@@ -116,23 +116,24 @@ void Set_input(ConnectionState& s, const std::string& name, const std::string& v
 
 void Set_inputs(ConnectionState& s, const Json& inputs) {
     if (!inputs.is_object()) {
-        throw UsageError{"expected an object of inputs, got " +
-                         inputs.dump(-1, ' ', false, Json::error_handler_t::replace)};
+        throw UsageError{"expected an object of inputs, got " + Shown(inputs)};
     }
-    for (const auto& [name, value] : inputs.items()) {
+    for (const auto& item : inputs.items()) {
+        const std::string& name = item.key();
+        const Json& value = item.value();
         const std::string shown = Shown(value);
-        const auto number = [&value = value, &name = name, &shown] {
+        const auto number = [&] {
             if (!value.is_number()) {
                 Refuse(name, "a number", shown);
             }
-            return value.template get<double>();
+            return value.get<double>();
         };
         std::visit(Overloaded{
                        [&](float ConnectionState::*member) { s.*member = To_float(name, number(), shown); },
                        [&](std::int16_t ConnectionState::*member) { s.*member = To_int16(name, number(), shown); },
                        [&](bool ConnectionState::*member) {
                            if (value.is_boolean()) {
-                               s.*member = value.template get<bool>();
+                               s.*member = value.get<bool>();
                            } else {
                                s.*member = To_flag(name, shown);
                            }
@@ -142,7 +143,7 @@ void Set_inputs(ConnectionState& s, const Json& inputs) {
                            if (!value.is_string()) {
                                Refuse(name, "a text", shown);
                            }
-                           s.*member = std::string_view{value.template get_ref<const std::string&>()};
+                           s.*member = std::string_view{value.get_ref<const std::string&>()};
                        },
                    },
                    Input(name).member);

@@ -1,0 +1,54 @@
+# Installs what a bare Debian 12 machine lacks to build, run and check Tarnvik. Sourced by test.sh, run.sh and .ci/run:
+#
+#   . tools/setup.sh
+#   install_missing "${build_packages[@]}"
+#
+# Only missing packages are installed, and where nothing is missing no network is needed. Needs root, or sudo.
+# shellcheck shell=bash disable=SC2034
+
+# Compiler and build system, GoogleTest, JSON, Qt 6 with PrintSupport and Svg, the fonts of the window and the report.
+build_packages=(
+    g++ cmake ninja-build libgtest-dev nlohmann-json3-dev
+    qt6-base-dev qt6-svg-dev fonts-liberation python3
+)
+
+# What CI needs beyond that: formatter, linter, fuzzer, benchmarks. Debian 12 has version 14 of the clang tools.
+ci_packages=(
+    git clang clang-format-14 clang-tidy-14 libclang-rt-14-dev libbenchmark-dev
+)
+
+missing_packages() {
+    local package
+    for package in "$@"; do
+        if ! dpkg-query -W -f '${db:Status-Status}\n' "$package" 2>/dev/null | grep -qx installed; then
+            printf '%s\n' "$package"
+        fi
+    done
+}
+
+install_missing() {
+    if ! command -v dpkg-query >/dev/null; then
+        echo "setup: no Debian machine; the build needs the like of: $*" >&2
+        return 0
+    fi
+    local missing
+    mapfile -t missing < <(missing_packages "$@")
+    if [ "${#missing[@]}" -eq 0 ]; then
+        return 0
+    fi
+    local -a root=()
+    if [ "$(id -u)" -ne 0 ]; then
+        if ! command -v sudo >/dev/null; then
+            echo "setup: missing, and neither root nor sudo to install them: ${missing[*]}" >&2
+            return 1
+        fi
+        root=(sudo)
+        if [ ! -t 0 ]; then
+            root+=(-n) # nobody there to type a password
+        fi
+    fi
+    echo "setup: installing ${missing[*]}"
+    local -a apt=("${root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get -q -o Acquire::Retries=3)
+    "${apt[@]}" update </dev/null &&
+        "${apt[@]}" install -y --no-install-recommends "${missing[@]}" </dev/null
+}

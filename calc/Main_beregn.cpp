@@ -178,6 +178,7 @@ PassEnd Main_beregn(ConnectionState& s, Screen* screen, MessageBox& box) {
     Show_section(s.Txt_h2, s.h2, Control::Txt_h2, show);
 
     Get_Con_code(s);
+    Plot_connection(s, show);
     Get_Ab_valg(s);
     show.Enabled(Control::Cmd_boltetype_0, s.Ab_valg);
     show.Enabled(Control::Cmd_boltetype_1, s.Ab_valg);
@@ -190,6 +191,7 @@ PassEnd Main_beregn(ConnectionState& s, Screen* screen, MessageBox& box) {
         show.Number(Control::Lbl_bulldog2, s.Fv_Rk, "0.00 ");
     }
 
+    Clear_tables(show);
     Clear_spacing(s);
     for (const Control control : {Control::Fra_av_bulldog, Control::Fra_bulldog, Control::Lbl_bulldog_kap1,
                                   Control::Lbl_bulldog_kap2, Control::Lbl_pluss, Control::Lbl_Rd_bulldog_kontroll}) {

@@ -8,6 +8,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "calc/Text.h"
 
@@ -81,8 +82,25 @@ struct ControlView {
     std::optional<int> index; // selected row of a list
 };
 
+// A text in a text area. The coordinates run from 0 to 100, x to the right and y upward; the text hangs below its
+// point, as a print at CurrentX, CurrentY does. An empty text shows nothing.
+struct PositionedText {
+    float x{}, y{};
+    std::string text;
+    bool bold{};
+    std::uint32_t fore{colour_black};
+};
+
 struct Screen {
     std::array<ControlView, control_count> controls;
+
+    // The rules and numbers of the distances: bolts and connectors.
+    std::vector<PositionedText> Pic_av_bolter_dif, Pic_av_bulldog_dif;
+
+    // Keys of the stored pictures that the picture areas show, as "Frm_tarn_vik_bolter_1_strekk/Pic1_2_a"; empty until
+    // a pass chose one. The keys are literals.
+    std::string_view Pic_forbindelse;               // the connection
+    std::string_view Pic_av_bolter, Pic_av_bulldog; // the sketch of the case, the same one twice
 
     ControlView& operator[](Control control) { return controls[static_cast<std::size_t>(control)]; }
     const ControlView& operator[](Control control) const { return controls[static_cast<std::size_t>(control)]; }

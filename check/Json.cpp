@@ -181,6 +181,34 @@ void Append_screen(std::string& json, const Screen& screen) {
     }
 }
 
+void Append_table(std::string& json, const std::vector<PositionedText>& table) {
+    List texts{json, '[', ']'};
+    for (const PositionedText& text : table) {
+        texts.Next();
+        List object{json, '{', '}'};
+        object.Member("x", text.x);
+        object.Member("y", text.y);
+        object.Member("text", text.text);
+        object.Member("bold", text.bold);
+        object.Member("fore", text.fore);
+    }
+}
+
+void Append_tables(std::string& json, const Screen& screen) {
+    List areas{json, '{', '}'};
+    areas.Name("Pic_av_bolter_dif");
+    Append_table(json, screen.Pic_av_bolter_dif);
+    areas.Name("Pic_av_bulldog_dif");
+    Append_table(json, screen.Pic_av_bulldog_dif);
+}
+
+void Append_pictures(std::string& json, const Screen& screen) {
+    List areas{json, '{', '}'};
+    areas.Member("Pic_forbindelse", screen.Pic_forbindelse);
+    areas.Member("Pic_av_bolter", screen.Pic_av_bolter);
+    areas.Member("Pic_av_bulldog", screen.Pic_av_bulldog);
+}
+
 } // namespace
 
 void Append_json(std::string& json, std::string_view text) {
@@ -227,6 +255,10 @@ void Append_result(std::string& json, const Options& options, const std::string&
         object.Name(group);
         if (group == "screen") {
             Append_screen(json, screen);
+        } else if (group == "tables") {
+            Append_tables(json, screen);
+        } else if (group == "pictures") {
+            Append_pictures(json, screen);
         }
     }
 }

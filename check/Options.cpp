@@ -10,7 +10,7 @@ namespace tarnvik {
 
 namespace {
 
-constexpr std::array<std::string_view, 1> groups{"screen"};
+constexpr std::array<std::string_view, 3> groups{"screen", "tables", "pictures"};
 // The tables behind the state, shown when they are asked for by name.
 constexpr std::array<std::string_view, 3> tables{"Mat", "Prof", "Setup"};
 
@@ -40,7 +40,7 @@ opened and checked.
   --lang Eng|Nor     language of a new project (default: the setup file's)
   --set NAME=VALUE   write an input before the check; repeatable, in the order given
   --json             one JSON object a line instead of the readable summary
-  --with GROUPS      more in the JSON, separated by commas: screen
+  --with GROUPS      more in the JSON, separated by commas: screen,tables,pictures
   --fields A,B,...   only these names of the state; Mat, Prof and Setup show the tables
   --batch            read inputs as JSON Lines from standard input, one result a line
   --save FILE        save the project after the check
@@ -119,7 +119,7 @@ Options Parse_options(const std::vector<std::string>& arguments) {
         } else if (name == "--with") {
             for (std::string& group : Split_list(value("a list of groups"))) {
                 if (std::find(groups.begin(), groups.end(), group) == groups.end()) {
-                    throw UsageError{"--with: unknown group \"" + group + "\", expected screen"};
+                    throw UsageError{"--with: unknown group \"" + group + "\", expected screen,tables,pictures"};
                 }
                 options.with.push_back(std::move(group));
             }

@@ -45,7 +45,7 @@ std::string Project_bytes(const ConnectionState& s, const Project_record& record
 
 // Reads the nine parts in order into the state's Setup, Mat, Prof and their indices and counts, and into the record.
 // Errors: bad record length (59) where the file ends too soon; what was read so far stays.
-void Read_project(ConnectionState& s, Project_record& record, std::istream& file);
+void Read_project(ConnectionState& s, Project_record& record, std::istream& stream);
 
 // Writes the file; a longer one keeps its old tail. Errors: as Safe_write.
 void Save_project(const ConnectionState& s, const Project_record& record, const std::filesystem::path& path);

@@ -89,12 +89,13 @@ public:
     // In blocks, so that a damaged length never asks for more memory than the file has bytes for.
     void Counted(std::string& text) {
         std::size_t left = Word();
+        constexpr std::size_t block = 4096;
         std::string bytes;
-        std::array<char, 4096> block{};
         while (left > 0) {
-            const std::size_t count = std::min(left, block.size());
-            Bytes(block.data(), count);
-            bytes.append(block.data(), count);
+            const std::size_t count = std::min(left, block);
+            const std::size_t at = bytes.size();
+            bytes.resize(at + count);
+            Bytes(bytes.data() + at, count);
             left -= count;
         }
         text = From_windows_1252(bytes);

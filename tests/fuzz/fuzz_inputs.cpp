@@ -1,0 +1,59 @@
+// Lines of a batch: JSON that is refused with a reason, or a pass whose result is JSON.
+#include <string>
+
+#include <nlohmann/json.hpp>
+
+#include "Fuzz.h"
+#include "calc/Main_beregn.h"
+#include "check/Inputs.h"
+#include "check/Json.h"
+#include "check/Summary.h"
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    using namespace tarnvik;
+    using Json = nlohmann::ordered_json;
+    static const auto s = std::make_unique<ConnectionState>();
+    static_cast<ConnectionValues&>(*s) = fuzz::New_project();
+    if (s->Prof1_count == 0) {
+        *s = fuzz::New_project();
+    }
+    try {
+        const std::string_view line{reinterpret_cast<const char*>(data), size};
+        const Json inputs = Json::parse(line);
+        Screen screen;
+        Options options;
+        options.with = {"screen"};
+        for (const Json& object : inputs.is_array() ? inputs : Json::array({inputs})) {
+            RecordingMessageBox box;
+            Set_inputs(*s, object);
+            const PassResult result = Run_pass(*s, &screen, box);
+            FUZZ_CHECK((result.end == PassEnd::fault) == result.fault.has_value());
+            std::string json;
+            Append_result(json, options, {}, *s, screen, result, box);
+            // Inputs are finite, and the arithmetic stops before an infinity: no value is missing.
+            const Json shown = Json::parse(json);
+            for (const auto& [name, value] : shown.at("state").items()) {
+                FUZZ_CHECK(!value.is_null());
+            }
+            FUZZ_CHECK(!Summary({}, *s, result, box).empty());
+        }
+    } catch (const UsageError& error) {
+        FUZZ_CHECK(!error.text.empty());
+    } catch (const Json::exception&) { // NOLINT(bugprone-empty-catch): a line that is no JSON
+    }
+    // The same text as the value of an option.
+    if (size > 0 && data[0] >= 'A') {
+        const std::string pair{reinterpret_cast<const char*>(data), size};
+        const std::size_t equals = pair.find('=');
+        if (equals != std::string::npos) {
+            try {
+                Set_input(*s, pair.substr(0, equals), pair.substr(equals + 1));
+                RecordingMessageBox box;
+                Run_pass(*s, nullptr, box);
+            } catch (const UsageError& error) {
+                FUZZ_CHECK(!error.text.empty());
+            }
+        }
+    }
+    return 0;
+}

@@ -110,7 +110,7 @@ std::string Edited(Input& input) {
             break;
         default:
             // Filling up: the file is read to its end even where an edit has made its texts longer.
-            file.append(input.Word(), static_cast<char>(input.Byte()));
+            file.append(input.Word() % 4096U, static_cast<char>(input.Byte()));
             break;
         }
     }

@@ -1,0 +1,48 @@
+// main() of the program.
+#include <QApplication>
+#include <QIcon>
+#include <QLocale>
+#include <QMessageBox>
+
+#include "calc/RuntimeFault.h"
+#include "data/Startup.h"
+#include "frontend/Controls.h"
+#include "frontend/QtServices.h"
+#include "frontend/Style.h"
+#include "frontend/frmMain.h"
+
+namespace {
+
+// A plain box, and the end of the program.
+int Give_up(const std::string& text) {
+    QMessageBox box{QMessageBox::NoIcon, QStringLiteral("Tarnvik"), tarnvik::Q(text)};
+    box.exec();
+    return 1;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    QApplication application{argc, argv};
+    QApplication::setApplicationName(QStringLiteral("Tarn-Vik"));
+    QApplication::setDesktopFileName(QStringLiteral("tarnvik"));
+    tarnvik::Set_looks(application);
+    const QString point = QLocale::system().decimalPoint();
+    tarnvik::Set_decimal_sign(point == QLatin1String(",") ? ',' : '.');
+
+    tarnvik::ConnectionState state;
+    tarnvik::QtBoxService boxes;
+    tarnvik::QtFileDialogs files;
+    tarnvik::QtDocumentOpener opener;
+    tarnvik::QtSettingsStore settings;
+    try {
+        tarnvik::frmMain window{
+            state, {boxes, files, opener, settings}, tarnvik::U(QCoreApplication::applicationDirPath())};
+        window.Load();
+        return QApplication::exec();
+    } catch (const tarnvik::DataFileError& error) {
+        return Give_up(error.Text());
+    } catch (const tarnvik::RuntimeFault& fault) {
+        return Give_up(tarnvik::Fault_text(fault));
+    }
+}

@@ -1,0 +1,119 @@
+#include "frontend/QtServices.h"
+
+#include <QApplication>
+#include <QDesktopServices>
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QMessageBox>
+#include <QSettings>
+#include <QUrl>
+
+#include "frontend/Controls.h"
+
+namespace tarnvik {
+
+namespace {
+
+QSettings Open_settings(std::string_view application) {
+    return QSettings{QSettings::NativeFormat, QSettings::UserScope, Q(application), Q(application)};
+}
+
+QFileDialog::Options No_options() {
+    return {};
+}
+
+constexpr int flag_overwrite_prompt = 2;
+
+} // namespace
+
+void QtBoxService::Show_then(std::string_view text, int style, std::function<void()> then) {
+    pending_.push_back({std::string{text}, style, std::move(then)});
+    QMetaObject::invokeMethod(this, &QtBoxService::Next, Qt::QueuedConnection);
+}
+
+void QtBoxService::Next() {
+    if (shown_ || pending_.empty()) {
+        return;
+    }
+    shown_ = true;
+    const Pending next = std::move(pending_.front());
+    pending_.pop_front();
+    while (QWidget* popup = QApplication::activePopupWidget()) { // a list that dropped down would hide the box
+        popup->close();
+    }
+    QWidget* parent = QApplication::activeModalWidget();
+    if (parent == nullptr) {
+        parent = QApplication::activeWindow();
+    }
+    auto* box = new QMessageBox{next.style == box_exclamation ? QMessageBox::Warning : QMessageBox::NoIcon,
+                                QStringLiteral(" "), Q(next.text), QMessageBox::Ok, parent};
+    box->setObjectName(QStringLiteral("MessageBox"));
+    box->setTextFormat(Qt::PlainText);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->setWindowModality(Qt::ApplicationModal);
+    connect(box, &QMessageBox::finished, this, [this, then = next.then] {
+        shown_ = false;
+        if (then) {
+            // After the box is gone, so that the focus goes back to a window that is active again.
+            QMetaObject::invokeMethod(this, then, Qt::QueuedConnection);
+        }
+        QMetaObject::invokeMethod(this, &QtBoxService::Next, Qt::QueuedConnection);
+    });
+    box->show();
+}
+
+std::optional<std::string> QtFileDialogs::Open(const FileRequest& request) {
+    const QString path = QFileDialog::getOpenFileName(QApplication::activeWindow(), {}, QDir::currentPath(),
+                                                      Q("Tarnvik (" + request.filter + ")"), nullptr, No_options());
+    return path.isEmpty() ? std::nullopt : std::optional{U(path)};
+}
+
+std::optional<std::string> QtFileDialogs::Save(const FileRequest& request) {
+    QFileDialog dialog{QApplication::activeWindow()};
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setFileMode(QFileDialog::AnyFile);
+    dialog.setNameFilter(Q("Tarnvik (" + request.filter + ")"));
+    dialog.setDefaultSuffix(Q(request.default_extension));
+    dialog.setOption(QFileDialog::DontConfirmOverwrite, (request.flags & flag_overwrite_prompt) == 0);
+    const QFileInfo start{Q(request.file_name)};
+    dialog.setDirectory(start.absoluteDir());
+    dialog.selectFile(start.fileName());
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
+        return std::nullopt;
+    }
+    return U(dialog.selectedFiles().constFirst());
+}
+
+bool QtDocumentOpener::Open_file(const std::string& path) {
+    return QDesktopServices::openUrl(QUrl::fromLocalFile(Q(path)));
+}
+
+bool QtDocumentOpener::Open_link(const std::string& url) {
+    return QDesktopServices::openUrl(QUrl{Q(url)});
+}
+
+std::string QtSettingsStore::Get(std::string_view application, std::string_view section, std::string_view key) const {
+    QSettings settings = Open_settings(application);
+    settings.beginGroup(Q(section));
+    return U(settings.value(Q(key)).toString());
+}
+
+std::vector<Setting> QtSettingsStore::Get_all(std::string_view application, std::string_view section) const {
+    QSettings settings = Open_settings(application);
+    settings.beginGroup(Q(section));
+    std::vector<Setting> rows;
+    for (const QString& key : settings.childKeys()) {
+        rows.push_back({U(key), U(settings.value(key).toString())});
+    }
+    return rows;
+}
+
+void QtSettingsStore::Save(std::string_view application, std::string_view section, std::string_view key,
+                           std::string_view value) {
+    QSettings settings = Open_settings(application);
+    settings.beginGroup(Q(section));
+    settings.setValue(Q(key), Q(value));
+}
+
+} // namespace tarnvik

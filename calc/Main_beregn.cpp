@@ -22,7 +22,7 @@ constexpr std::string_view where = "Main_beregn";
 
 void Lang_klasser(ConnectionValues& s, const ScreenWriter& show, bool english) {
     show.Caption(Control::Fra_klasse, english ? "Classes" : "Klasser");
-    show.Caption(Control::Lbl_lastvar_1, english ? "Load-duration class = " : "Lastvarighetsklasse = ");
+    show.Caption(Control::Lbl_lastvar_1, english ? "Load-duration class =" : "Lastvarighetsklasse = ");
     if (s.Lastvar >= 1 && s.Lastvar <= static_cast<int>(class_table.size())) {
         const ClassRow& row = class_table[static_cast<std::size_t>(s.Lastvar - 1)];
         s.Lastvar_txt = english ? row.name_eng : row.name_nor;

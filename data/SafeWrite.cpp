@@ -142,7 +142,8 @@ fs::path Follow(const fs::path& path) {
 void Safe_write(const fs::path& path, std::string_view content, OldTail tail, std::string_view where) {
     std::error_code error;
     const fs::path target = Follow(path);
-    if (!target.has_filename() || fs::is_directory(target, error)) {
+    if (!target.has_filename() || fs::is_directory(target, error) ||
+        fs::is_symlink(fs::symlink_status(target, error))) { // still a link: a ring of them
         Raise(fault_path_access, where);
     }
     const fs::file_status old = fs::status(target, error);

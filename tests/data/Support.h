@@ -1,0 +1,68 @@
+// What the tests of the files share.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <system_error>
+
+#include "calc/Text.h"
+#include "tests/calc/Support.h"
+
+namespace tarnvik::test {
+
+// A folder of its own for one test, gone at its end.
+class TemporaryFolder {
+public:
+    TemporaryFolder() {
+        std::string name = (std::filesystem::temp_directory_path() / "tarnvik-test-XXXXXX").string();
+        if (mkdtemp(name.data()) == nullptr) {
+            throw std::runtime_error{"no temporary folder"};
+        }
+        path_ = name;
+    }
+    TemporaryFolder(const TemporaryFolder&) = delete;
+    TemporaryFolder& operator=(const TemporaryFolder&) = delete;
+    ~TemporaryFolder() {
+        std::error_code ignored;
+        std::filesystem::remove_all(path_, ignored);
+    }
+
+    [[nodiscard]] const std::filesystem::path& Path() const { return path_; }
+    [[nodiscard]] std::filesystem::path operator/(std::string_view name) const { return path_ / name; }
+    [[nodiscard]] std::size_t Files() const {
+        return static_cast<std::size_t>(std::distance(std::filesystem::directory_iterator{path_}, {}));
+    }
+
+private:
+    std::filesystem::path path_;
+};
+
+inline void Write_file(const std::filesystem::path& path, std::string_view bytes) {
+    std::ofstream file{path, std::ios::binary};
+    file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+    ASSERT_TRUE(file.good()) << path;
+}
+
+inline std::string Read_file(const std::filesystem::path& path) {
+    std::ifstream file{path, std::ios::binary};
+    EXPECT_TRUE(file.good()) << path;
+    return {std::istreambuf_iterator<char>{file}, {}};
+}
+
+// The decimal sign of the regional settings while it lives; "." again afterwards.
+class DecimalSign {
+public:
+    explicit DecimalSign(char sign) { Set_decimal_sign(sign); }
+    DecimalSign(const DecimalSign&) = delete;
+    DecimalSign& operator=(const DecimalSign&) = delete;
+    ~DecimalSign() { Set_decimal_sign('.'); }
+};
+
+} // namespace tarnvik::test

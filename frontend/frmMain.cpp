@@ -138,8 +138,10 @@ void frmMain::Main_beregn() {
     s_.Txt_h1 = U(Find<TextBox>("Txt_h1").text());
     s_.Txt_b2 = U(Find<TextBox>("Txt_b2").text());
     s_.Txt_h2 = U(Find<TextBox>("Txt_h2").text());
+    screen_.controls = {}; // only what this pass writes: what the user has typed since the last one stays
     const PassResult result = Run_pass(s_, &screen_, services_.boxes);
     Apply_screen();
+    emit Calculated();
     if (result.fault) {
         throw RuntimeFault{*result.fault};
     }
@@ -567,10 +569,9 @@ void frmMain::Leave_man_he(TextBox& box) {
             return;
         }
         box.Set_back(colour_white_box);
-        const ShortText shown = Format(s_.man_he, "0");
-        box.setText(Q(shown));
-        screen_[Control::Txt_man_he].caption = std::string{shown.View()};
+        box.setText(Q(Format(s_.man_he, "0")));
         s_.he = s_.man_he;
+        screen_.controls = {};
         Tverr_brudd(s_, h, s_.he, b, ScreenWriter{&screen_});
         Apply_screen();
     } catch (const RuntimeFault& fault) {
@@ -823,7 +824,6 @@ void frmMain::Apply_project_controls() {
         Find<QWidget>("Txt_man_he").setEnabled(true);
         Find<QWidget>("Lbl_man_he").setEnabled(true);
         Find<TextBox>("Txt_man_he").setText(Q(Format(s_.man_he, "0")));
-        screen_[Control::Txt_man_he].caption = std::string{Format(s_.man_he, "0").View()};
     } else {
         Find<QCheckBox>("Check_man").setChecked(false);
     }

@@ -95,6 +95,8 @@ public:
 
 signals:
     void Unloaded();
+    // A pass has run, however it ended, and its results are on the controls.
+    void Calculated();
 
 protected:
     bool event(QEvent* event) override;

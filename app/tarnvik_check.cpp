@@ -6,6 +6,9 @@
 #include <vector>
 
 #include "check/Check.h"
+#ifdef TARNVIK_WITH_FRONTEND
+#include "frontend/QtRendering.h"
+#endif
 
 int main(int argc, char** argv) {
     std::ios::sync_with_stdio(false);
@@ -14,6 +17,12 @@ int main(int argc, char** argv) {
     if (error) {
         program = std::filesystem::absolute(argv[0], error);
     }
+#ifdef TARNVIK_WITH_FRONTEND
+    tarnvik::QtRendering painter{argc, argv};
+    tarnvik::QtRendering* rendering = &painter;
+#else
+    tarnvik::Rendering* rendering = nullptr;
+#endif
     return tarnvik::Run_check(std::vector<std::string>(argv + 1, argv + argc), program.parent_path(), std::cin,
-                              std::cout, std::cerr);
+                              std::cout, std::cerr, rendering);
 }

@@ -11,6 +11,7 @@
 #include "check/Inputs.h"
 #include "check/Json.h"
 #include "check/Options.h"
+#include "check/Rendering.h"
 #include "check/Summary.h"
 #include "data/ProjectFile.h"
 #include "data/SetupFile.h"
@@ -189,7 +190,7 @@ private:
 } // namespace
 
 int Run_check(const std::vector<std::string>& arguments, const std::filesystem::path& program_folder, std::istream& in,
-              std::ostream& out, std::ostream& err) {
+              std::ostream& out, std::ostream& err, Rendering* rendering) {
     try {
         Options options = Parse_options(arguments);
         if (options.help) {
@@ -198,6 +199,14 @@ int Run_check(const std::vector<std::string>& arguments, const std::filesystem::
         }
         if (options.version) {
             out << "tarnvik-check " << version << "\n";
+            return exit_holds;
+        }
+        if (options.pictures) {
+            if (rendering == nullptr) {
+                throw UsageError{"--pictures needs the build with the window"};
+            }
+            const int written = rendering->Write_pictures(*options.pictures);
+            out << written << " pictures written to " << *options.pictures << "\n";
             return exit_holds;
         }
         const std::filesystem::path folder =
@@ -211,6 +220,8 @@ int Run_check(const std::vector<std::string>& arguments, const std::filesystem::
         err << "tarnvik-check: " << error.text << "\n";
     } catch (const DataFileError& error) {
         err << "tarnvik-check: " << error.Text() << "\n";
+    } catch (const RuntimeFault& fault) {
+        err << "tarnvik-check: the pictures cannot be written: " << fault.description << "\n";
     }
     return exit_usage;
 }

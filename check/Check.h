@@ -16,8 +16,11 @@ inline constexpr int exit_fails = 1;   // all calculated, some utilisation above
 inline constexpr int exit_usage = 2;   // wrong usage or unreadable input
 inline constexpr int exit_stopped = 3; // a pass was stopped or faulted
 
-// Runs the tool. `program_folder` is where the data files lie unless --data names another folder.
+class Rendering;
+
+// Runs the tool. `program_folder` is where the data files lie unless --data names another folder. `rendering` paints what
+// is asked for as pictures; null in a build without the front end.
 int Run_check(const std::vector<std::string>& arguments, const std::filesystem::path& program_folder, std::istream& in,
-              std::ostream& out, std::ostream& err);
+              std::ostream& out, std::ostream& err, Rendering* rendering = nullptr);
 
 } // namespace tarnvik

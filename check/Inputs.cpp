@@ -73,14 +73,14 @@ double To_number(const std::string& name, const std::string& text) {
     return value;
 }
 
-bool To_flag(const std::string& name, const std::string& text) {
+bool To_flag(const std::string& name, const std::string& text, const std::string& shown) {
     if (text == "true" || text == "-1") {
         return true;
     }
     if (text == "false" || text == "0") {
         return false;
     }
-    Refuse(name, "true or false", Quoted(text));
+    Refuse(name, "true or false", shown);
 }
 
 const StateField& Input(const std::string& name) {
@@ -106,7 +106,7 @@ void Set_input(ConnectionState& s, const std::string& name, const std::string& v
             [&](std::int16_t ConnectionState::*member) {
                 s.*member = To_int16(name, To_number(name, value), Quoted(value));
             },
-            [&](bool ConnectionState::*member) { s.*member = To_flag(name, value); },
+            [&](bool ConnectionState::*member) { s.*member = To_flag(name, value, Quoted(value)); },
             [&](std::string_view ConnectionState::*) {}, // labels are results
             [&](auto member) { s.*member = std::string_view{value}; },
         },
@@ -131,13 +131,7 @@ void Set_inputs(ConnectionState& s, const Json& inputs) {
         std::visit(Overloaded{
                        [&](float ConnectionState::*member) { s.*member = To_float(name, number(), shown); },
                        [&](std::int16_t ConnectionState::*member) { s.*member = To_int16(name, number(), shown); },
-                       [&](bool ConnectionState::*member) {
-                           if (value.is_boolean()) {
-                               s.*member = value.get<bool>();
-                           } else {
-                               s.*member = To_flag(name, shown);
-                           }
-                       },
+                       [&](bool ConnectionState::*member) { s.*member = To_flag(name, shown, shown); },
                        [&](std::string_view ConnectionState::*) {}, // labels are results
                        [&](auto member) {
                            if (!value.is_string()) {

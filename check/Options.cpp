@@ -44,6 +44,7 @@ opened and checked.
   --fields A,B,...   only these names of the state; Mat, Prof and Setup show the tables
   --batch            read inputs as JSON Lines from standard input, one result a line
   --save FILE        save the project after the check
+  --pictures DIR     write every stored picture, as PNG and SVG, under its key
   --help             this text
   --version          the version
 
@@ -138,6 +139,8 @@ Options Parse_options(const std::vector<std::string>& arguments) {
             options.json = true;
         } else if (name == "--save") {
             options.save = value("a file");
+        } else if (name == "--pictures") {
+            options.pictures = value("a folder");
         } else if (name == "--help") {
             options.help = true;
         } else if (name == "--version") {

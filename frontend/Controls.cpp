@@ -276,7 +276,7 @@ void PictureButton::paintEvent(QPaintEvent* /*event*/) {
     style()->drawControl(QStyle::CE_PushButtonBevel, &option, &painter, this);
     const double margin = Scaled(3, logicalDpiX());
     const QRectF room = QRectF{rect()}.adjusted(margin, margin, -margin, -margin);
-    if (!Paint_picture(key_, painter, room)) {
+    if (!Paint_picture(key_, painter, room, logicalDpiX() / 96.0)) {
         painter.setPen(palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, QPalette::ButtonText));
         Draw_text(painter, text(), font(), room, Qt::AlignCenter);
     }
@@ -305,7 +305,7 @@ void PictureArea::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter{this};
     const QRectF room = QRectF{rect()}.adjusted(0.0, 0.0, -covered_, 0.0);
     painter.fillRect(rect(), Qt::white);
-    Paint_picture(key_, painter, room);
+    Paint_picture(key_, painter, room, logicalDpiX() / 96.0);
     painter.setPen(border_colour);
     painter.setBrush(Qt::NoBrush);
     painter.drawRect(QRectF{rect()}.adjusted(0.5, 0.5, -0.5, -0.5));

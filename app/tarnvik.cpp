@@ -1,12 +1,12 @@
 // main() of the program.
 #include <QApplication>
-#include <QIcon>
 #include <QLocale>
 #include <QMessageBox>
 
 #include "calc/RuntimeFault.h"
 #include "data/Startup.h"
 #include "frontend/Controls.h"
+#include "frontend/Icon.h"
 #include "frontend/QtServices.h"
 #include "frontend/Style.h"
 #include "frontend/frmMain.h"
@@ -26,6 +26,7 @@ int main(int argc, char** argv) {
     QApplication application{argc, argv};
     QApplication::setApplicationName(QStringLiteral("Tarn-Vik"));
     QApplication::setDesktopFileName(QStringLiteral("tarnvik"));
+    QApplication::setWindowIcon(tarnvik::Program_icon());
     tarnvik::Set_looks(application);
     const QString point = QLocale::system().decimalPoint();
     tarnvik::Set_decimal_sign(point == QLatin1String(",") ? ',' : '.');

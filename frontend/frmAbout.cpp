@@ -1,6 +1,6 @@
 #include "frontend/frmAbout.h"
 
-#include <QIcon>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QMouseEvent>
 #include <QScreen>
@@ -10,6 +10,7 @@
 #include <array>
 
 #include "frontend/Controls.h"
+#include "frontend/Icon.h"
 #include "frontend/Style.h"
 #include "frontend/frmMain.h"
 
@@ -35,10 +36,18 @@ frmAbout::frmAbout(frmMain& window) : QDialog(&window), window_(window) {
     setObjectName(QStringLiteral("frmAbout"));
     setWindowTitle(Is_english(window.State()) ? QStringLiteral("About Tarnvik") : QStringLiteral("Om Tarnvik"));
     const double dpi = logicalDpiX();
-    auto* lines = new QVBoxLayout{this};
+    auto* all = new QHBoxLayout{this};
     const int margin = Scaled(24, dpi);
-    lines->setContentsMargins(margin, Scaled(18, dpi), margin, Scaled(18, dpi));
+    all->setContentsMargins(margin, Scaled(18, dpi), margin, Scaled(18, dpi));
+    all->setSpacing(margin);
+    auto* icon = new QLabel{this};
+    icon->setObjectName(QStringLiteral("Img_icon"));
+    icon->setAccessibleName(QStringLiteral("Tarnvik"));
+    icon->setPixmap(Program_icon().pixmap(QSize{Scaled(64, dpi), Scaled(64, dpi)}, devicePixelRatioF()));
+    all->addWidget(icon, 0, Qt::AlignTop);
+    auto* lines = new QVBoxLayout;
     lines->setSpacing(Scaled(6, dpi));
+    all->addLayout(lines);
     const auto add = [this, lines](const char* name, const QString& text, double points, bool bold, bool link) {
         auto* label = new QLabel{text, this};
         label->setObjectName(QLatin1String(name));
@@ -61,7 +70,7 @@ frmAbout::frmAbout(frmMain& window) : QDialog(&window), window_(window) {
         QLabel* label = add(link.name, QLatin1String(link.text), 8.0, false, true);
         label->setCursor(Qt::PointingHandCursor);
     }
-    lines->setSizeConstraint(QLayout::SetFixedSize);
+    all->setSizeConstraint(QLayout::SetFixedSize);
 }
 
 void frmAbout::mousePressEvent(QMouseEvent* event) {

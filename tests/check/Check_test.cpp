@@ -254,6 +254,30 @@ TEST_F(CheckProjects, a_saved_project_opens_with_every_input) {
     EXPECT_EQ(opened.dump(), saved.dump());
 }
 
+// Every line of bytes on the page: an offset of eight digits, two blanks and up to 16 bytes.
+TEST_F(CheckProjects, the_worked_example_of_the_file_formats_page_is_a_new_project) {
+    Tool({"--lang", "Eng", "--save", File("New File")});
+    const std::string bytes = test::Read_file(folder / "New File");
+    EXPECT_EQ(bytes.size(), 13443U);
+    std::istringstream page{test::Read_file(fs::path{TARNVIK_SOURCE_DIR} / "docs" / "file-formats.md")};
+    std::size_t compared = 0;
+    for (std::string line; std::getline(page, line);) {
+        const std::size_t digits = line.find_first_not_of("0123456789abcdef");
+        if (digits != 8 || line.compare(8, 2, "  ") != 0) {
+            continue;
+        }
+        const std::size_t offset = std::stoul(line.substr(0, 8), nullptr, 16);
+        for (std::size_t i = 0; i < 16 && 10 + 3 * i < line.size() && line[10 + 3 * i] != ' '; ++i) {
+            ASSERT_LT(offset + i, bytes.size());
+            EXPECT_EQ(static_cast<unsigned char>(bytes[offset + i]),
+                      std::stoul(line.substr(10 + 3 * i, 2), nullptr, 16))
+                << line << ", byte " << i;
+            ++compared;
+        }
+    }
+    EXPECT_EQ(compared, 0xA0U + 0x76U);
+}
+
 TEST_F(CheckProjects, inputs_are_written_after_opening) {
     EXPECT_NE(Tool({"--set", "P=3", "--set", "alp=50", "--save", File("a")}).status, exit_usage);
     const Json state = Tool({"--json", "--set", "P=4", File("a")}).Object()["state"];

@@ -60,6 +60,9 @@ int TarnvikStyle::styleHint(StyleHint hint, const QStyleOption* option, const QW
     if (hint == SH_ComboBox_Popup) {
         return 0; // a list that drops down below the box
     }
+    if (hint == SH_DialogButtonBox_ButtonsHaveIcons) {
+        return 0; // no button of the program has one
+    }
     return QProxyStyle::styleHint(hint, option, widget, data);
 }
 

@@ -727,9 +727,10 @@ void frmMain::Show_recent() {
     for (int i = 1; i <= recent_count; ++i) {
         const RecentEntry& entry = recent_(i);
         QAction* action = actions_.at("mnurecentfile(" + std::to_string(i) + ")");
-        action->setSeparator(entry.caption == "-");
-        // A path may hold "&", which a menu would take for an accelerator.
-        action->setText(Q(entry.caption).replace(QLatin1Char('&'), QLatin1String("&&")));
+        const bool line = entry.caption == "-";
+        action->setSeparator(line);
+        // A path may hold "&", which a menu would take for an accelerator; a text on a separator would be drawn.
+        action->setText(line ? QString{} : Q(entry.caption).replace(QLatin1Char('&'), QLatin1String("&&")));
         action->setVisible(entry.visible);
     }
 }

@@ -3,6 +3,7 @@
 #include <QAccessible>
 #include <QFocusEvent>
 #include <QFontMetricsF>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QPainterPath>
 #include <QStyleOptionButton>
@@ -194,6 +195,14 @@ void TextBox::Set_back(std::uint32_t colour) {
 
 void TextBox::focusInEvent(QFocusEvent* event) {
     QLineEdit::focusInEvent(event);
+    if (event->reason() == Qt::MouseFocusReason) {
+        entering_ = Entering::focused;
+        QTimer::singleShot(0, this, [this] {
+            if (entering_ == Entering::focused) { // the press that should have followed did not come
+                entering_ = Entering::no;
+            }
+        });
+    }
     if (Leaves(event->reason())) {
         emit Got_focus();
     }
@@ -201,8 +210,12 @@ void TextBox::focusInEvent(QFocusEvent* event) {
 
 void TextBox::focusOutEvent(QFocusEvent* event) {
     QLineEdit::focusOutEvent(event);
+    entering_ = Entering::no;
     if (Leaves(event->reason())) {
         deselect();
+        if (!isEnabled()) { // not left by the user: there is nothing in editing any more
+            Set_back(colour_white_box);
+        }
         emit Lost_focus();
     }
 }
@@ -214,6 +227,28 @@ void TextBox::keyPressEvent(QKeyEvent* event) {
         return;
     }
     QLineEdit::keyPressEvent(event);
+}
+
+void TextBox::mousePressEvent(QMouseEvent* event) {
+    if (entering_ == Entering::focused) {
+        entering_ = Entering::pressed;
+    } else {
+        QLineEdit::mousePressEvent(event);
+    }
+}
+
+void TextBox::mouseMoveEvent(QMouseEvent* event) {
+    if (entering_ != Entering::pressed) {
+        QLineEdit::mouseMoveEvent(event);
+    }
+}
+
+void TextBox::mouseReleaseEvent(QMouseEvent* event) {
+    if (entering_ == Entering::pressed) {
+        entering_ = Entering::no;
+    } else {
+        QLineEdit::mouseReleaseEvent(event);
+    }
 }
 
 ListBox::ListBox(QWidget* parent) : QComboBox(parent) {

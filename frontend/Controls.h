@@ -84,9 +84,16 @@ protected:
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
 
 private:
+    // The click that enters the box leaves its text selected.
+    enum class Entering : std::uint8_t { no, focused, pressed };
+
     std::uint32_t back_{colour_white_box};
+    Entering entering_{Entering::no};
 };
 
 // A list box that drops down. `Picked` comes once for each choice, by the user (also of the row that is selected

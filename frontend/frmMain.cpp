@@ -14,6 +14,7 @@
 #include <array>
 #include <cmath>
 #include <stdexcept>
+#include <utility>
 
 #include "calc/RuntimeFault.h"
 #include "calc/Splitting.h"
@@ -76,7 +77,7 @@ frmMain::frmMain(ConnectionState& state, const Services& services, std::filesyst
     setObjectName(QStringLiteral("frmMain"));
     setWindowTitle(QStringLiteral("Tarnvik"));
     // Before anything else: the children take font and scale from the window.
-    setFixedSize(Scaled(1024.0, logicalDpiX()), static_cast<int>(std::lround(0.965 * 768.0 * logicalDpiY() / 96.0)));
+    resize(Scaled(1024.0, logicalDpiX()), static_cast<int>(std::lround(0.965 * 768.0 * logicalDpiY() / 96.0)));
     setContextMenuPolicy(Qt::NoContextMenu);
     Build_menus();
     Build_controls();
@@ -156,6 +157,8 @@ void frmMain::Recalculate() {
 }
 
 void frmMain::Apply_screen() {
+    // A control that is disabled or hidden under the focus is not left by the user.
+    const bool loading = std::exchange(s_.Loading, true);
     for (std::size_t i = 0; i < control_count; ++i) {
         const ControlView& view = screen_.controls[i];
         const std::string_view name = Control_name(static_cast<Control>(i));
@@ -209,6 +212,7 @@ void frmMain::Apply_screen() {
     for (int i = 0; i < 5; ++i) {
         Find<PictureButton>("Cmd_type(" + std::to_string(i) + ")").Set_pressed_look(s_.Con_type == i + 1);
     }
+    s_.Loading = loading;
 }
 
 void frmMain::Set_caption_of(std::string_view control, std::string_view caption) {
@@ -469,10 +473,13 @@ void frmMain::Enter_box(TextBox& box) {
 
 void frmMain::Refuse(TextBox& box, std::string_view text, int style, bool give_back) {
     refused_ = &box;
-    const auto after = [this, &box, give_back] {
-        if (give_back) {
-            box.setFocus(Qt::OtherFocusReason);
-            Enter_box(box);
+    told_ = !text.empty();
+    const auto after = [this, give_back] {
+        TextBox* refused = refused_;
+        const bool elsewhere = refused == nullptr || !refused->isEnabled() || (!told_ && !refused->isActiveWindow());
+        if (give_back && !elsewhere) {
+            refused->setFocus(Qt::OtherFocusReason);
+            Enter_box(*refused);
         }
         refused_ = nullptr;
         // What was entered while the message waited starts its editing now.
@@ -480,10 +487,12 @@ void frmMain::Refuse(TextBox& box, std::string_view text, int style, bool give_b
             emit entered->Got_focus();
         }
     };
-    if (text.empty()) {
-        QMetaObject::invokeMethod(this, after, Qt::QueuedConnection);
-    } else {
+    if (told_) {
         services_.boxes.Show_then(text, style, after);
+    } else if (QApplication::mouseButtons() != Qt::NoButton) {
+        on_release_ = after;
+    } else {
+        QMetaObject::invokeMethod(this, after, Qt::QueuedConnection);
     }
 }
 
@@ -667,9 +676,25 @@ void frmMain::Connect_handlers() {
 }
 
 void frmMain::Show_modal(QDialog& window) {
+    if (auto* box = dynamic_cast<TextBox*>(focusWidget())) {
+        box->clearFocus();
+        if (Refusing() && told_) {
+            return;
+        }
+    }
+    activated_ = false;
     window.exec();
-    // Coming back to the window is an activation: the focus goes to the project's name.
-    Find<TextBox>("txtprosjekt").setFocus(Qt::OtherFocusReason);
+    if (isActiveWindow()) {
+        Activate();
+    }
+}
+
+// The first sight of the window and the return from one of the others: not a change between programs.
+void frmMain::Activate() {
+    if (!activated_) {
+        activated_ = true;
+        Find<TextBox>("txtprosjekt").setFocus(Qt::OtherFocusReason);
+    }
 }
 
 void frmMain::Open_manual() {
@@ -682,9 +707,8 @@ void frmMain::Open_manual() {
 }
 
 bool frmMain::event(QEvent* event) {
-    if (event->type() == QEvent::WindowActivate && !activated_) {
-        activated_ = true;
-        Find<TextBox>("txtprosjekt").setFocus(Qt::OtherFocusReason);
+    if (event->type() == QEvent::WindowActivate) {
+        Activate();
     }
     return QMainWindow::event(event);
 }
@@ -692,7 +716,10 @@ bool frmMain::event(QEvent* event) {
 bool frmMain::eventFilter(QObject* watched, QEvent* event) {
     // Between a refused value and the answer to its message nothing else happens in the box's window: the click or the
     // key that left the box does not act.
-    if (refused_ != nullptr) {
+    if (on_release_ && event->type() == QEvent::MouseButtonRelease) {
+        QMetaObject::invokeMethod(this, std::exchange(on_release_, {}), Qt::QueuedConnection);
+    }
+    if (Refusing() && told_) {
         switch (event->type()) {
         case QEvent::MouseButtonPress:
         case QEvent::MouseButtonRelease:

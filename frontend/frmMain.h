@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QMainWindow>
+#include <QPointer>
 
 #include <filesystem>
 #include <functional>
@@ -66,7 +67,8 @@ public:
     void WritefrmInput1();
     void WritefrmInput2();
 
-    // Runs one of the program's own windows as a modal one and gives the focus back as an activation does.
+    // Runs one of the program's own windows as a modal one. The box in editing is left first, and one that is refused
+    // keeps the window from opening; afterwards the focus is where an activation of the main window puts it.
     void Show_modal(QDialog& window);
 
     // File menu: 1 open, 2 save, 3 save as.
@@ -74,9 +76,10 @@ public:
     void Recent_open(int Index);
 
     // The sign that a text box was refused and its message is still to be answered: other boxes wait.
-    [[nodiscard]] bool Refusing() const { return refused_ != nullptr; }
+    [[nodiscard]] bool Refusing() const { return !refused_.isNull(); }
 
-    // Message, then focus back to the box (unless `give_back` is false); the box stays green.
+    // Message, then focus back to the box (unless `give_back` is false); the box stays green. The click or key that left
+    // the box does not act. Without a message it does, and the focus goes back afterwards.
     void Refuse(TextBox& box, std::string_view text, int style, bool give_back = true);
     // The common error step of the numeric boxes.
     void Input_error(TextBox& box, int number);
@@ -131,6 +134,7 @@ private:
     void Check_man_click(bool checked);
     void Open_manual();
     void Show_connector_frames(bool shown);
+    void Activate();
     void Fill_bulldog();
     void Select(std::string_view option);
     static void Clear_option(QAbstractButton& option);
@@ -145,7 +149,9 @@ private:
     std::map<std::string, QObject*, std::less<>> controls_;
     std::map<std::string, QAction*, std::less<>> actions_;
     std::unique_ptr<Frm_tarn_vik_fak_klass> classes_;
-    TextBox* refused_{};
+    QPointer<TextBox> refused_;
+    bool told_{};                      // the refusal has a message
+    std::function<void()> on_release_; // waits for the mouse button
     bool activated_{};
     std::string title_prefix_;
     std::string cur_dir_;

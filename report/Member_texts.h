@@ -1,0 +1,31 @@
+// What the two members of a connection are called, by Con_code: the labels of their embedment strengths and the notes
+// on their thicknesses. The printed report and the detailed calculations on the screen show the same ones.
+#pragma once
+
+#include <string_view>
+
+#include "calc/GlobalParameter.h"
+
+namespace tarnvik {
+
+// The same words in both languages. The differing numbers of blanks are deliberate.
+struct MemberText {
+    std::string_view eng, nor;
+
+    [[nodiscard]] std::string_view In(bool english) const { return english ? eng : nor; }
+};
+
+struct MemberTexts {
+    std::string_view Con_code;
+    MemberText label1, label2; // of t1 and of t2
+    MemberText note1, note2;
+};
+
+// The labels of a connection; null for a code outside the catalogue.
+const MemberTexts* Member_labels(const ConnectionValues& s);
+
+// The notes of a connection. Con_type says which codes are looked at: 1, then 2, 4 and 5 together, then 3. Null for a
+// code outside that group: nothing of the thicknesses is shown then.
+const MemberTexts* Member_notes(const ConnectionValues& s);
+
+} // namespace tarnvik

@@ -1,0 +1,208 @@
+// What the user waits for: from the Tab that leaves a box to the window painted anew, and from the start of the process
+// to the first sight of the window. Without a display, unless QT_QPA_PLATFORM says otherwise.
+#include <QAbstractButton>
+#include <QApplication>
+#include <QKeyEvent>
+#include <QProcess>
+#include <QSet>
+
+#include <algorithm>
+#include <chrono>
+#include <cstdio>
+#include <cstdlib>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "data/SettingsStore.h"
+#include "frontend/Icon.h"
+#include "frontend/Style.h"
+#include "frontend/frmMain.h"
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+constexpr int presses = 200;
+constexpr int starts = 21;
+
+// No message may come up while the clock runs.
+class NoBoxes : public tarnvik::BoxService {
+public:
+    void Show_then(std::string_view text, int /*style*/, std::function<void()> /*then*/) override {
+        std::fprintf(stderr, "unexpected message: %.*s\n", static_cast<int>(text.size()), text.data());
+        std::exit(1);
+    }
+};
+
+class NoFiles : public tarnvik::FileDialogs {
+public:
+    std::optional<std::string> Open(const tarnvik::FileRequest& /*request*/) override { return std::nullopt; }
+    std::optional<std::string> Save(const tarnvik::FileRequest& /*request*/) override { return std::nullopt; }
+};
+
+class NoOpener : public tarnvik::DocumentOpener {
+public:
+    bool Open_file(const std::string& /*path*/) override { return false; }
+    bool Open_link(const std::string& /*url*/) override { return false; }
+};
+
+// The window as the program makes it, on the delivered data.
+struct Program {
+    NoBoxes boxes;
+    NoFiles files;
+    NoOpener opener;
+    tarnvik::MemorySettingsStore settings;
+    tarnvik::ConnectionState state;
+    tarnvik::frmMain window{state, {boxes, files, opener, settings}, TARNVIK_DATA_DIR};
+};
+
+// Which widgets were painted.
+class Painted : public QObject {
+public:
+    QSet<QObject*> widgets;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() == QEvent::Paint) {
+            widgets.insert(watched);
+        }
+        return false;
+    }
+};
+
+double Milliseconds(Clock::duration time) {
+    return std::chrono::duration<double, std::milli>(time).count();
+}
+
+void Print(const char* what, std::vector<double> times) {
+    std::sort(times.begin(), times.end());
+    std::printf("%-28s median %7.2f ms   worst %7.2f ms   of %zu\n", what, times[times.size() / 2], times.back(),
+                times.size());
+}
+
+void Press(QWidget& widget, int key) {
+    QKeyEvent press{QEvent::KeyPress, key, Qt::NoModifier};
+    QApplication::sendEvent(&widget, &press);
+    QKeyEvent release{QEvent::KeyRelease, key, Qt::NoModifier};
+    QApplication::sendEvent(&widget, &release);
+}
+
+// Everything that was posted, paint requests among them.
+void Settle() {
+    for (int i = 0; i < 4; ++i) {
+        QApplication::processEvents();
+        QApplication::sendPostedEvents();
+    }
+}
+
+int Measure_window(QApplication& application) {
+    Program program;
+    tarnvik::frmMain& window = program.window;
+    window.Load();
+    window.activateWindow();
+    Settle();
+    window.Find<QAbstractButton>("Opt_bolt_bulldog(1)").setChecked(true);
+    window.Find<tarnvik::ListBox>("Comb_ant_bolt").setCurrentIndex(3);
+    Settle();
+
+    Painted painted;
+    application.installEventFilter(&painted);
+    auto& box = window.Find<tarnvik::TextBox>("Txt_last");
+    auto& utilisation = window.Find<QWidget>("Lbl_uf");
+    std::vector<double> dirty;
+    std::vector<double> whole;
+    for (int i = 0; i < presses; ++i) {
+        box.setFocus(Qt::OtherFocusReason);
+        box.setText(QString::number(5 + i % 7));
+        Settle();
+        painted.widgets.clear();
+        const auto start = Clock::now();
+        Press(box, Qt::Key_Tab);
+        Settle();
+        const auto shown = Clock::now();
+        const bool seen = painted.widgets.contains(&box) && painted.widgets.contains(&utilisation);
+        window.repaint();
+        const auto all_shown = Clock::now();
+        if (box.hasFocus() || !seen) {
+            std::fprintf(stderr, "the Tab key was not taken, or its result not painted\n");
+            return 1;
+        }
+        dirty.push_back(Milliseconds(shown - start));
+        whole.push_back(Milliseconds(all_shown - start));
+    }
+    Print("Tab to what changed painted", dirty);
+    Print("and then the whole window", whole);
+
+    // Another connection each time: three pictures that were not shown before are composed and painted.
+    std::vector<double> pictures;
+    auto& number = window.Find<tarnvik::ListBox>("Comb_ant_bolt");
+    window.Find<QAbstractButton>("Cmd_type(4)").click();
+    for (int row = 0; row < number.count(); ++row) {
+        number.setCurrentIndex(row);
+        for (int type = 0; type < 5; ++type) {
+            Settle();
+            painted.widgets.clear();
+            const auto start = Clock::now();
+            window.Find<QAbstractButton>("Cmd_type(" + std::to_string(type) + ")").click();
+            Settle();
+            pictures.push_back(Milliseconds(Clock::now() - start));
+            if (!painted.widgets.contains(&window.Find<QWidget>("Pic_av_bolter"))) {
+                std::fprintf(stderr, "the sketch was not painted\n");
+                return 1;
+            }
+        }
+    }
+    Print("type to new pictures painted", pictures);
+    return 0;
+}
+
+// In a process of its own: from `begun`, which the parent took before it started this one, to the first paint.
+int Start_once(Clock::time_point begun) {
+    Program program;
+    program.window.Load();
+    Painted painted;
+    qApp->installEventFilter(&painted);
+    const auto& last = program.window.Find<QWidget>("Lbl_uf");
+    while (!painted.widgets.contains(const_cast<QWidget*>(&last))) {
+        QApplication::processEvents();
+    }
+    QApplication::processEvents(); // the rest of the same paint, and what goes to the display
+    std::printf("%.3f\n", Milliseconds(Clock::now() - begun));
+    return 0;
+}
+
+int Measure_starts() {
+    std::vector<double> times;
+    for (int i = 0; i < starts; ++i) {
+        QProcess child;
+        child.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+        const auto begun = Clock::now().time_since_epoch().count();
+        child.start(QCoreApplication::applicationFilePath(), {QStringLiteral("--start"), QString::number(begun)});
+        if (!child.waitForFinished() || child.exitCode() != 0) {
+            std::fprintf(stderr, "the start failed\n");
+            return 1;
+        }
+        times.push_back(child.readAllStandardOutput().trimmed().toDouble());
+    }
+    std::printf("first start %34.2f ms\n", times.front());
+    Print("start to window painted", times);
+    return 0;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
+    QApplication application{argc, argv};
+    QApplication::setWindowIcon(tarnvik::Program_icon());
+    tarnvik::Set_looks(application);
+    tarnvik::Set_decimal_sign('.');
+    if (argc == 3 && std::string_view{argv[1]} == "--start") {
+        return Start_once(Clock::time_point{Clock::duration{std::stoll(argv[2])}});
+    }
+    const int status = Measure_window(application);
+    return status != 0 ? status : Measure_starts();
+}

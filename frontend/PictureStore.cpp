@@ -8,6 +8,7 @@
 #include <optional>
 
 #include "frontend/Controls.h"
+#include "frontend/EquationPictures.h"
 #include "frontend/Style.h"
 #include "spacing/Drawing.h"
 #include "spacing/Pictures.h"
@@ -59,6 +60,8 @@ QPen Pen_of(Pen pen) {
 
 // Letters of 8 points, in pixels at 96 dots per inch.
 constexpr int letter_pixels = 11;
+// The equations' letters: 9 points, as their indices are smaller.
+constexpr double equation_letter = 12.0;
 
 void Paint(QPainter& painter, const Drawing& drawing) {
     painter.setRenderHint(QPainter::Antialiasing);
@@ -148,6 +151,9 @@ const std::optional<Drawing>& Compose(std::string_view key, double width, double
 } // namespace
 
 bool Paint_picture(std::string_view key, QPainter& painter, const QRectF& room, double unit) {
+    if (Paint_equation(key, painter, room, equation_letter * unit)) {
+        return true;
+    }
     const auto& drawing = Compose(key, room.width() / unit, room.height() / unit);
     if (!drawing) {
         return false;
@@ -168,6 +174,9 @@ QSizeF Picture_size(std::string_view key) {
     if (key.starts_with("Frm_tarn_vik_forbindelser")) {
         return {239.0, 174.0};
     }
+    if (const auto equation = Equation_size(key, equation_letter)) {
+        return *equation;
+    }
     return {76.0, 37.0}; // a button
 }
 
@@ -183,6 +192,7 @@ std::vector<std::string> Picture_keys() {
     for (int type = 1; type <= type_count; ++type) {
         keys.push_back(Type_key(type));
     }
+    keys.insert(keys.end(), equation_keys.begin(), equation_keys.end());
     return keys;
 }
 

@@ -2,17 +2,14 @@
 
 #include <gtest/gtest.h>
 
-#include <array>
 #include <bit>
 #include <cstdint>
-#include <functional>
 #include <memory>
-#include <sstream>
 #include <string>
+#include <variant>
 #include <vector>
 
 #include "calc/Main_beregn.h"
-#include "data/CodePage.h"
 #include "data/Startup.h"
 #include "tests/data/Support.h"
 
@@ -132,170 +129,146 @@ void Set_as_hand_written(ConnectionState& s) {
     s.man_he = 101.5F;
 }
 
-// A layout of the file of its own, beside the program's: bytes in order, and for each field where it ends and how to
-// see that it has been read.
+// A field of the file in the state or in the record.
+struct Slot {
+    using Value =
+        std::variant<std::int16_t*, float*, bool*, std::string*, FixedText<1>*, FixedText<3>*, FixedText<15>*>;
+
+    std::string name;
+    Value value;
+};
+
+// The fields in the order of the file, the reserved ones left out.
+std::vector<Slot> Slots(ConnectionState& s, Project_record& r) {
+    std::vector<Slot> slots{{"Language", &s.Setup.Language}};
+    for (std::string& line : s.Setup.Setup_line) {
+        slots.push_back({"Setup_line", &line});
+    }
+    slots.push_back({"gam_timb", &s.Setup.gam_timb});
+    slots.push_back({"gam_lam", &s.Setup.gam_lam});
+    slots.push_back({"gam_kerto", &s.Setup.gam_kerto});
+    slots.push_back({"gam_k-bjelke", &s.Setup.gam_k_bjelke});
+    for (std::size_t i = 0; i < 101; ++i) {
+        const std::string name = "Mat " + std::to_string(i) + " ";
+        slots.push_back({name + "Id", &s.Mat[i].Id});
+        slots.push_back({name + "Type", &s.Mat[i].Type});
+        slots.push_back({name + "Standard", &s.Mat[i].Standard});
+        slots.push_back({name + "fmk", &s.Mat[i].fmk});
+        slots.push_back({name + "fc0k", &s.Mat[i].fc0k});
+        slots.push_back({name + "fc90k", &s.Mat[i].fc90k});
+        slots.push_back({name + "fvk", &s.Mat[i].fvk});
+        slots.push_back({name + "E0_mean", &s.Mat[i].E0_mean});
+        slots.push_back({name + "E0_05", &s.Mat[i].E0_05});
+        slots.push_back({name + "G", &s.Mat[i].G});
+        slots.push_back({name + "dens", &s.Mat[i].dens});
+        slots.push_back({name + "s_fac", &s.Mat[i].s_fac});
+    }
+    slots.push_back({"Mat_index", &s.Mat_index});
+    slots.push_back({"Mat_count", &s.Mat_count});
+    for (std::size_t i = 0; i < 401; ++i) {
+        const std::string name = "Prof " + std::to_string(i) + " ";
+        slots.push_back({name + "Id", &s.Prof[i].Id});
+        slots.push_back({name + "Type", &s.Prof[i].Type});
+        slots.push_back({name + "Standard", &s.Prof[i].Standard});
+        slots.push_back({name + "b", &s.Prof[i].b});
+        slots.push_back({name + "h", &s.Prof[i].h});
+    }
+    const Slot rest[] = {
+        {"Prof1_index", &s.Prof1_index},
+        {"Prof1_count", &s.Prof1_count},
+        {"Prof2_index", &s.Prof2_index},
+        {"Prof2_count", &s.Prof2_count},
+        {"Prosjekt", &r.Prosjekt},
+        {"Id", &r.Id},
+        {"Lastvar", &r.Lastvar},
+        {"Lastvar_txt", &r.Lastvar_txt},
+        {"Klima", &r.Klima},
+        {"Kun_bolt", &r.Kun_bolt},
+        {"Med_bulldog", &r.Med_bulldog},
+        {"Bolt_index", &r.Bolt_index},
+        {"Bulldog_index", &r.Bulldog_index},
+        {"Ant_index", &r.Ant_index},
+        {"Standard", &r.Standard},
+        {"b1", &r.b1},
+        {"h1", &r.h1},
+        {"b2", &r.b2},
+        {"h2", &r.h2},
+        {"P", &r.P},
+        {"alp", &r.alp},
+        {"Con_type", &r.Con_type},
+        {"dob_1", &r.dob_1},
+        {"dob_2", &r.dob_2},
+        {"enk_1", &r.enk_1},
+        {"enk_2", &r.enk_2},
+        {"Bolt_ab", &r.Bolt_ab},
+        {"Avstand_index", &r.Avstand_index},
+        {"Man_he_on", &r.Man_he_on},
+        {"man_he", &r.man_he},
+    };
+    slots.insert(slots.end(), std::begin(rest), std::end(rest));
+    return slots;
+}
+
+bool Same(const Slot& one, const Slot& other) {
+    return std::visit([&other](auto* value) { return *value == *std::get<decltype(value)>(other.value); }, one.value);
+}
+
+// A layout of the file of its own, beside the program's: every field with a value that no other field has, flags true.
 class Layout {
 public:
-    struct Field {
-        std::size_t end;
-        std::string name;
-        std::function<bool(const ConnectionState&, const Project_record&)> is_read;
-    };
-
-    // Every field of the file with a value that no other field has, flags true.
-    static Layout Distinct() {
-        Layout layout;
-        layout.Setup();
-        layout.Tables();
-        layout.Record();
-        return layout;
-    }
-
-    std::string bytes;
-    std::vector<Field> fields;
-    std::size_t profiles_begin{}, record_begin{};
-    // The values in the state and in the record that give these bytes.
-    std::unique_ptr<ConnectionState> state = std::make_unique<ConnectionState>();
-    Project_record record;
-
-private:
-    template <class Get> void Done(std::string name, Get get) {
-        const auto value = get(*state, record);
-        fields.push_back(
-            {bytes.size(), std::move(name),
-             [get, value](const ConnectionState& s, const Project_record& r) { return get(s, r) == value; }});
-    }
-    void Raw_word(int value) {
-        bytes += static_cast<char>(value & 0xFF);
-        bytes += static_cast<char>((value >> 8) & 0xFF);
-    }
-    template <class Get> void Word(const char* name, Get get) {
-        get(*state, record) = static_cast<std::int16_t>(next_);
-        Raw_word(next_++);
-        Done(name, Read(get));
-    }
-    template <class Get> void Flag(const char* name, Get get) {
-        get(*state, record) = true;
-        Raw_word(-1);
-        Done(name, Read(get));
-    }
-    template <class Get> void Float(const std::string& name, Get get) {
-        const float value = static_cast<float>(next_++) + 0.25F;
-        get(*state, record) = value;
-        const auto bits = std::bit_cast<std::uint32_t>(value);
-        Raw_word(static_cast<int>(bits & 0xFFFFU));
-        Raw_word(static_cast<int>(bits >> 16U));
-        Done(name, Read(get));
-    }
-    template <class Get> void Counted(const std::string& name, Get get) {
-        const std::string digits = std::to_string(next_++);
-        get(*state, record) = "å" + digits; // one byte in the file, two in the state
-        Raw_word(static_cast<int>(digits.size()) + 1);
-        bytes += "\xE5" + digits;
-        Done(name, Read(get));
-    }
-    template <class Get> void Fixed(const char* name, std::size_t width, Get get) {
-        std::string text = std::string(width - 1, 'x') + static_cast<char>('a' + next_++ % 26);
-        text.replace(0, width > 1 ? 1 : 0, width > 1 ? "\xD8" : "");
-        get(*state, record) = std::string_view{From_windows_1252(text)};
-        bytes += text;
-        Done(name, Read(get));
-    }
-    // The same access for reading.
-    template <class Get> static auto Read(Get get) {
-        return [get](const ConnectionState& s, const Project_record& r) {
-            return get(const_cast<ConnectionState&>(s), const_cast<Project_record&>(r));
-        };
-    }
-
-#define IN_STATE(member)                                                                                               \
-    [=](ConnectionState & s, Project_record&) -> auto& {                                                               \
-        return s.member;                                                                                               \
-    }
-#define IN_RECORD(member)                                                                                              \
-    [](ConnectionState&, Project_record & r) -> auto& {                                                                \
-        return r.member;                                                                                               \
-    }
-
-    void Setup() {
-        Fixed("Language", 3, IN_STATE(Setup.Language));
-        for (std::size_t i = 0; i < 6; ++i) {
-            Counted("Setup_line " + std::to_string(i), IN_STATE(Setup.Setup_line[i]));
+    Layout() {
+        for (const Slot& slot : slots) {
+            if (slot.name == "Prof1_index" || slot.name == "Prof2_index") {
+                Word(0);
+            } else if (slot.name == "Prosjekt") {
+                record_begin = bytes.size();
+            } else if (slot.name == "Prof 0 Id") {
+                profiles_begin = bytes.size();
+            }
+            std::visit([this](auto* value) { Put(*value); }, slot.value);
+            ends.push_back(bytes.size());
         }
-        Float("gam_timb", IN_STATE(Setup.gam_timb));
-        Float("gam_lam", IN_STATE(Setup.gam_lam));
-        Float("gam_kerto", IN_STATE(Setup.gam_kerto));
-        Float("gam_k-bjelke", IN_STATE(Setup.gam_k_bjelke));
-    }
-
-    void Tables() {
-        for (std::size_t i = 0; i < 101; ++i) {
-            const std::string name = "Mat " + std::to_string(i) + " ";
-            Counted(name + "Id", IN_STATE(Mat[i].Id));
-            Counted(name + "Type", IN_STATE(Mat[i].Type));
-            Counted(name + "Standard", IN_STATE(Mat[i].Standard));
-            Float(name + "fmk", IN_STATE(Mat[i].fmk));
-            Float(name + "fc0k", IN_STATE(Mat[i].fc0k));
-            Float(name + "fc90k", IN_STATE(Mat[i].fc90k));
-            Float(name + "fvk", IN_STATE(Mat[i].fvk));
-            Float(name + "E0_mean", IN_STATE(Mat[i].E0_mean));
-            Float(name + "E0_05", IN_STATE(Mat[i].E0_05));
-            Float(name + "G", IN_STATE(Mat[i].G));
-            Float(name + "dens", IN_STATE(Mat[i].dens));
-            Float(name + "s_fac", IN_STATE(Mat[i].s_fac));
-        }
-        Word("Mat_index", IN_STATE(Mat_index));
-        Word("Mat_count", IN_STATE(Mat_count));
-        profiles_begin = bytes.size();
-        for (std::size_t i = 0; i < 401; ++i) {
-            const std::string name = "Prof " + std::to_string(i) + " ";
-            Counted(name + "Id", IN_STATE(Prof[i].Id));
-            Counted(name + "Type", IN_STATE(Prof[i].Type));
-            Counted(name + "Standard", IN_STATE(Prof[i].Standard));
-            Float(name + "b", IN_STATE(Prof[i].b));
-            Float(name + "h", IN_STATE(Prof[i].h));
-        }
-        Raw_word(0);
-        Word("Prof1_index", IN_STATE(Prof1_index));
-        Word("Prof1_count", IN_STATE(Prof1_count));
-        Raw_word(0);
-        Word("Prof2_index", IN_STATE(Prof2_index));
-        Word("Prof2_count", IN_STATE(Prof2_count));
-    }
-
-    void Record() {
-        record_begin = bytes.size();
-        Counted("Prosjekt", IN_RECORD(Prosjekt));
-        Counted("Id", IN_RECORD(Id));
-        Word("Lastvar", IN_RECORD(Lastvar));
-        Fixed("Lastvar_txt", 15, IN_RECORD(Lastvar_txt));
-        Word("Klima", IN_RECORD(Klima));
-        Flag("Kun_bolt", IN_RECORD(Kun_bolt));
-        Flag("Med_bulldog", IN_RECORD(Med_bulldog));
-        Word("Bolt_index", IN_RECORD(Bolt_index));
-        Word("Bulldog_index", IN_RECORD(Bulldog_index));
-        Word("Ant_index", IN_RECORD(Ant_index));
-        Flag("Standard", IN_RECORD(Standard));
-        Float("b1", IN_RECORD(b1));
-        Float("h1", IN_RECORD(h1));
-        Float("b2", IN_RECORD(b2));
-        Float("h2", IN_RECORD(h2));
-        Float("P", IN_RECORD(P));
-        Float("alp", IN_RECORD(alp));
-        Word("Con_type", IN_RECORD(Con_type));
-        Flag("dob_1", IN_RECORD(dob_1));
-        Flag("dob_2", IN_RECORD(dob_2));
-        Flag("enk_1", IN_RECORD(enk_1));
-        Flag("enk_2", IN_RECORD(enk_2));
-        Fixed("Bolt_ab", 1, IN_RECORD(Bolt_ab));
-        Word("Avstand_index", IN_RECORD(Avstand_index));
-        Flag("Man_he_on", IN_RECORD(Man_he_on));
-        Float("man_he", IN_RECORD(man_he));
         bytes += Zeros(624 + 2 * 101 + 100 + 100);
     }
 
-#undef IN_STATE
-#undef IN_RECORD
+    // The values in the state and in the record that give the bytes.
+    std::unique_ptr<ConnectionState> state = std::make_unique<ConnectionState>();
+    Project_record record;
+    std::vector<Slot> slots = Slots(*state, record);
+    std::vector<std::size_t> ends; // where each field ends
+    std::string bytes;
+    std::size_t profiles_begin{}, record_begin{};
+
+private:
+    void Word(unsigned value) {
+        bytes += static_cast<char>(value & 0xFFU);
+        bytes += static_cast<char>((value >> 8U) & 0xFFU);
+    }
+    void Put(std::int16_t& value) {
+        value = static_cast<std::int16_t>(next_++);
+        Word(static_cast<unsigned>(value));
+    }
+    void Put(float& value) {
+        value = static_cast<float>(next_++) + 0.25F;
+        const auto bits = std::bit_cast<std::uint32_t>(value);
+        Word(bits & 0xFFFFU);
+        Word(bits >> 16U);
+    }
+    void Put(bool& value) {
+        value = true;
+        Word(0xFFFFU);
+    }
+    void Put(std::string& value) {
+        const std::string digits = std::to_string(next_++);
+        value = "å" + digits; // one byte in the file, two in the state
+        Word(static_cast<unsigned>(digits.size()) + 1);
+        bytes += "\xE5" + digits;
+    }
+    template <std::size_t N> void Put(FixedText<N>& value) {
+        const std::string text = std::string(N - 1, 'x') + static_cast<char>('a' + next_++ % 26);
+        value = std::string_view{text};
+        bytes += text;
+    }
 
     int next_ = 1000;
 };
@@ -394,15 +367,16 @@ TEST_F(ProjectFile, an_empty_project_has_the_length_of_its_fixed_parts) {
 }
 
 TEST_F(ProjectFile, every_field_has_its_place) {
-    const Layout layout = Layout::Distinct();
-    ASSERT_EQ(layout.fields.size(), 11U + 101U * 12U + 2U + 401U * 5U + 4U + 26U);
+    const Layout layout;
+    const std::vector<Slot> slots = Slots(s, record);
+    ASSERT_EQ(slots.size(), 11U + 101U * 12U + 2U + 401U * 5U + 4U + 26U);
     EXPECT_TRUE(Project_bytes(*layout.state, layout.record) == layout.bytes);
-    for (const Layout::Field& field : layout.fields) {
-        ASSERT_FALSE(field.is_read(s, record)) << field.name << " of a fresh state";
+    for (std::size_t i = 0; i < slots.size(); ++i) {
+        ASSERT_FALSE(Same(slots[i], layout.slots[i])) << slots[i].name << " of a fresh state";
     }
     EXPECT_EQ(Read(layout.bytes), 0);
-    for (const Layout::Field& field : layout.fields) {
-        ASSERT_TRUE(field.is_read(s, record)) << field.name;
+    for (std::size_t i = 0; i < slots.size(); ++i) {
+        ASSERT_TRUE(Same(slots[i], layout.slots[i])) << slots[i].name;
     }
 }
 
@@ -566,7 +540,8 @@ TEST_F(ProjectFile, what_stands_in_the_reserve_is_skipped) {
 // Longer and longer pieces of one file: a piece changes the fields that it holds whole and no other. Every length at
 // the ends of the tables and in the record; among the rows between, every 13th, which reaches every field of them.
 TEST_F(ProjectFile, cut_short_it_ends_in_error_59_and_what_was_read_stays) {
-    const Layout layout = Layout::Distinct();
+    const Layout layout;
+    const std::vector<Slot> slots = Slots(s, record);
     const auto is_row_between = [&layout](std::size_t length) {
         const auto between = [length](std::size_t begin, std::size_t end) {
             return length > begin + 200 && length + 200 < end;
@@ -576,15 +551,15 @@ TEST_F(ProjectFile, cut_short_it_ends_in_error_59_and_what_was_read_stays) {
     std::size_t read = 0; // number of fields that the piece holds whole
     for (std::size_t length = 0; length < layout.bytes.size(); length += is_row_between(length) ? 13 : 1) {
         ASSERT_EQ(Read(std::string_view{layout.bytes}.substr(0, length)), fault_bad_record_length) << length;
-        while (read < layout.fields.size() && layout.fields[read].end <= length) {
-            ASSERT_TRUE(layout.fields[read].is_read(s, record)) << layout.fields[read].name << " at " << length;
+        while (read < slots.size() && layout.ends[read] <= length) {
+            ASSERT_TRUE(Same(slots[read], layout.slots[read])) << slots[read].name << " at " << length;
             ++read;
         }
-        if (read < layout.fields.size()) {
-            ASSERT_FALSE(layout.fields[read].is_read(s, record)) << layout.fields[read].name << " at " << length;
+        if (read < slots.size()) {
+            ASSERT_FALSE(Same(slots[read], layout.slots[read])) << slots[read].name << " at " << length;
         }
     }
-    EXPECT_EQ(read, layout.fields.size());
+    EXPECT_EQ(read, slots.size());
     EXPECT_EQ(Read(layout.bytes), 0);
 }
 

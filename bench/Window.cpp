@@ -103,7 +103,8 @@ int Measure_window(QApplication& application) {
     window.activateWindow();
     Settle();
     window.Find<QAbstractButton>("Opt_bolt_bulldog(1)").setChecked(true);
-    window.Find<tarnvik::ListBox>("Comb_ant_bolt").setCurrentIndex(3);
+    auto& number = window.Find<tarnvik::ListBox>("Comb_ant_bolt");
+    number.setCurrentIndex(number.count() - 1); // six bolts
     Settle();
 
     Painted painted;
@@ -136,7 +137,6 @@ int Measure_window(QApplication& application) {
 
     // Another connection each time: three pictures that were not shown before are composed and painted.
     std::vector<double> pictures;
-    auto& number = window.Find<tarnvik::ListBox>("Comb_ant_bolt");
     window.Find<QAbstractButton>("Cmd_type(4)").click();
     for (int row = 0; row < number.count(); ++row) {
         number.setCurrentIndex(row);
@@ -163,8 +163,8 @@ int Start_once(Clock::time_point begun) {
     program.window.Load();
     Painted painted;
     qApp->installEventFilter(&painted);
-    const auto& last = program.window.Find<QWidget>("Lbl_uf");
-    while (!painted.widgets.contains(const_cast<QWidget*>(&last))) {
+    auto& last = program.window.Find<QWidget>("Lbl_uf");
+    while (!painted.widgets.contains(&last)) {
         QApplication::processEvents();
     }
     QApplication::processEvents(); // the rest of the same paint, and what goes to the display

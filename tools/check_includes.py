@@ -15,9 +15,10 @@ ALLOWED = {
     "data": {"calc", "data"},
     "spacing": {"calc", "spacing"},
     "report": {"calc", "data", "spacing", "report"},
-    "check": {"calc", "data", "spacing", "report", "check"},
-    "frontend": {"calc", "data", "spacing", "report", "frontend"},
-    "app": {"calc", "data", "spacing", "report", "check", "frontend"},
+    "detail": {"calc", "data", "spacing", "report", "detail"},
+    "check": {"calc", "data", "spacing", "report", "detail", "check"},
+    "frontend": {"calc", "data", "spacing", "report", "detail", "frontend"},
+    "app": {"calc", "data", "spacing", "report", "detail", "check", "frontend"},
 }
 # The files that look up: the pass calls the spacing stage, the painter implements what the headless tool asks for.
 ALSO = {
@@ -26,7 +27,7 @@ ALSO = {
 }
 
 # Folders that get by with the standard library and, in data, the calls of the system that saving needs.
-CORE = {"calc", "data", "spacing", "report"}
+CORE = {"calc", "data", "spacing", "report", "detail"}
 NO_QT = CORE | {"check"}
 SYSTEM = {"fcntl.h", "sys/stat.h", "sys/types.h", "unistd.h"}
 

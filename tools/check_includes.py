@@ -15,6 +15,7 @@ ALLOWED = {
     "data": {"calc", "data"},
     "spacing": {"calc", "spacing"},
     "report": {"calc", "data", "spacing", "report"},
+    "detail": {"calc", "report", "detail"},
     "detail": {"calc", "data", "spacing", "report", "detail"},
     "check": {"calc", "data", "spacing", "report", "detail", "check"},
     "frontend": {"calc", "data", "spacing", "report", "detail", "frontend"},

@@ -15,7 +15,6 @@ ALLOWED = {
     "data": {"calc", "data"},
     "spacing": {"calc", "spacing"},
     "report": {"calc", "data", "spacing", "report"},
-    "detail": {"calc", "report", "detail"},
     "detail": {"calc", "data", "spacing", "report", "detail"},
     "check": {"calc", "data", "spacing", "report", "detail", "check"},
     "frontend": {"calc", "data", "spacing", "report", "detail", "frontend"},

@@ -184,7 +184,7 @@ click "$main" 18 8
 key Down Down Down Down Return
 shot opened-from-recent
 
-xdotool mousemove --window "$main" 238 8 click 1
+xdotool mousemove --window "$main" 262 8 click 1
 shot help-menu
 key Up Return
 shot about

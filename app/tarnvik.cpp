@@ -36,9 +36,11 @@ int main(int argc, char** argv) {
     tarnvik::QtFileDialogs files;
     tarnvik::QtDocumentOpener opener;
     tarnvik::QtSettingsStore settings;
+    tarnvik::QtPrinterService printer;
+    tarnvik::QtClock clock;
     try {
         tarnvik::frmMain window{
-            state, {boxes, files, opener, settings}, tarnvik::U(QCoreApplication::applicationDirPath())};
+            state, {boxes, files, opener, settings, printer, clock}, tarnvik::U(QCoreApplication::applicationDirPath())};
         window.Load();
         return QApplication::exec();
     } catch (const tarnvik::DataFileError& error) {

@@ -47,14 +47,23 @@ public:
     bool Open_link(const std::string& /*url*/) override { return false; }
 };
 
+class NoPrinter : public tarnvik::PrinterService {
+public:
+    std::unique_ptr<tarnvik::PrintTarget> Show_printer(const tarnvik::PrinterRequest& /*request*/) override {
+        return nullptr;
+    }
+};
+
 // The window as the program makes it, on the delivered data.
 struct Program {
     NoBoxes boxes;
     NoFiles files;
     NoOpener opener;
     tarnvik::MemorySettingsStore settings;
+    NoPrinter printer;
+    tarnvik::SystemClock clock;
     tarnvik::ConnectionState state;
-    tarnvik::frmMain window{state, {boxes, files, opener, settings}, TARNVIK_DATA_DIR};
+    tarnvik::frmMain window{state, {boxes, files, opener, settings, printer, clock}, TARNVIK_DATA_DIR};
 };
 
 // Which widgets were painted.

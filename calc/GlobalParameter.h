@@ -48,6 +48,7 @@ struct ConnectionValues : SpacingRecord {
     std::string Prosjekt;  // project name
     std::string Id;        // name of the connection
     std::string File_name; // path of the project file, or the new-project title until one is opened or saved
+    bool File_named{};     // File_name is a path: a project has been opened or saved
 
     // Classes and factors, EN 1995-1-1 2.3.1, 3.1.3 and 2.4.1
     std::int16_t Lastvar{1};   // load-duration class 1 to 5

@@ -16,6 +16,8 @@
 #include "data/ProjectFile.h"
 #include "data/SetupFile.h"
 #include "data/Startup.h"
+#include "report/PrintReport.h"
+#include "report/Recorder.h"
 
 namespace tarnvik {
 
@@ -38,8 +40,8 @@ int Status(const ConnectionState& s, const PassResult& result) {
 
 class Tool {
 public:
-    Tool(Options options, std::istream& in, std::ostream& out, std::ostream& err)
-        : options_(std::move(options)), in_(in), out_(out), err_(err) {}
+    Tool(Options options, std::istream& in, std::ostream& out, std::ostream& err, Rendering* rendering)
+        : options_(std::move(options)), in_(in), out_(out), err_(err), rendering_(rendering) {}
 
     int Run(const std::filesystem::path& folder) {
         std::optional<std::string_view> lang;
@@ -92,6 +94,7 @@ private:
             return exit_usage;
         }
         s_->File_name = path;
+        s_->File_named = true;
         Set_all();
         return One(path);
     }
@@ -104,10 +107,14 @@ private:
         s_->Loading = false;
         if (options_.json) {
             std::string json;
-            Append_result(json, options_, project, *s_, screen, result, box);
+            Append_result(json, options_, project, *s_, screen, result, box, Recording(screen));
             out_ << json << "\n";
         } else {
             out_ << Summary(project, *s_, result, box);
+        }
+        int status = Status(*s_, result);
+        if (options_.report) {
+            status = Worse(status, Write_report(screen, result));
         }
         if (options_.save) {
             try {
@@ -117,6 +124,34 @@ private:
                 err_ << "tarnvik-check: " << *options_.save << ": cannot be saved: " << fault.description << "\n";
                 return exit_usage;
             }
+        }
+        return status;
+    }
+
+    // The report of the state as it stands, recorded.
+    RecordReport Recording(const Screen& screen) {
+        return [this, &screen] {
+            Recorder recorder;
+            try {
+                PrintReport(recorder, *s_, {screen.Pic_forbindelse, screen.Pic_av_bolter}, clock_.Now(), texts_);
+            } catch (const RuntimeFault&) { // NOLINT(bugprone-empty-catch): a print that fails ends where it fails
+            }
+            return std::move(recorder.calls);
+        };
+    }
+
+    int Write_report(const Screen& screen, const PassResult& result) {
+        if (result.end != PassEnd::normal) {
+            err_ << "tarnvik-check: " << *options_.report << ": not written, the check was stopped\n";
+            return exit_stopped;
+        }
+        try {
+            rendering_->Write_report(*options_.report, s_->Prosjekt, [&](PrintTarget& target, const Moment& now) {
+                PrintReport(target, *s_, {screen.Pic_forbindelse, screen.Pic_av_bolter}, now, texts_);
+            });
+        } catch (const RuntimeFault& fault) {
+            err_ << "tarnvik-check: " << *options_.report << ": cannot be written: " << fault.description << "\n";
+            return exit_usage;
         }
         return Status(*s_, result);
     }
@@ -153,7 +188,7 @@ private:
                 } else {
                     pass(inputs);
                 }
-                Append_result(json, options_, {}, *s_, *screen, result, box);
+                Append_result(json, options_, {}, *s_, *screen, result, box, Recording(*screen));
                 status = Worse(status, Status(*s_, result));
             } catch (const UsageError& error) {
                 json.clear();
@@ -183,6 +218,9 @@ private:
     std::istream& in_;
     std::ostream& out_;
     std::ostream& err_;
+    Rendering* rendering_;
+    SystemClock clock_;
+    SpacingTexts texts_; // of all reports of the run
     std::unique_ptr<ConnectionState> start_ = std::make_unique<ConnectionState>();
     std::unique_ptr<ConnectionState> s_ = std::make_unique<ConnectionState>();
 };
@@ -209,9 +247,12 @@ int Run_check(const std::vector<std::string>& arguments, const std::filesystem::
             out << written << " pictures written to " << *options.pictures << "\n";
             return exit_holds;
         }
+        if (options.report && rendering == nullptr) {
+            throw UsageError{"--report needs the build with the window"};
+        }
         const std::filesystem::path folder =
             options.data.empty() ? program_folder : std::filesystem::path{options.data};
-        const int status = Tool{std::move(options), in, out, err}.Run(folder);
+        const int status = Tool{std::move(options), in, out, err, rendering}.Run(folder);
         if (out.flush()) {
             return status;
         }

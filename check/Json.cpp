@@ -6,6 +6,8 @@
 #include <nlohmann/json.hpp>
 
 #include "calc/StateFields.h"
+#include "detail/Detailed_calc.h"
+#include "detail/Hjelpetext.h"
 
 namespace tarnvik {
 
@@ -209,6 +211,107 @@ void Append_pictures(std::string& json, const Screen& screen) {
     areas.Member("Pic_av_bulldog", screen.Pic_av_bulldog);
 }
 
+void Append_font(List& object, std::string& json, const PrintFont& font) {
+    object.Name("font");
+    List members{json, '{', '}'};
+    members.Member("name", font.name);
+    members.Member("size", font.size);
+    members.Member("bold", font.bold);
+    members.Member("italic", font.italic);
+}
+
+void Append_call(std::string& json, const PrintCall& call) {
+    using Op = PrintCall::Op;
+    List object{json, '{', '}'};
+    object.Member("page", call.page);
+    object.Member("op", Op_name(call.op));
+    switch (call.op) {
+    case Op::FontName:
+        object.Member("value", call.text);
+        break;
+    case Op::FontBold:
+    case Op::FontItalic:
+        object.Member("value", call.flag);
+        break;
+    case Op::Line:
+        object.Member("x1", call.x);
+        object.Member("y1", call.y);
+        object.Member("x2", call.x2);
+        object.Member("y2", call.y2);
+        object.Member("draw_width", call.width);
+        break;
+    case Op::PaintPicture:
+        object.Member("picture", call.text);
+        object.Member("x", call.x);
+        object.Member("y", call.y);
+        object.Member("width", call.width);
+        object.Member("height", call.height);
+        break;
+    case Op::TextWidth:
+        object.Member("text", call.text);
+        object.Member("value", call.value);
+        Append_font(object, json, call.font);
+        break;
+    case Op::Print:
+        object.Member("text", call.text);
+        object.Member("x", call.x);
+        object.Member("y", call.y);
+        Append_font(object, json, call.font);
+        break;
+    case Op::NewPage:
+    case Op::EndDoc:
+        break;
+    default:
+        object.Member("value", call.value);
+        break;
+    }
+}
+
+void Append_report(std::string& json, const std::vector<PrintCall>& calls) {
+    List list{json, '[', ']'};
+    for (const PrintCall& call : calls) {
+        list.Next();
+        Append_call(json, call);
+    }
+}
+
+void Append_painting(std::string& json, const Painting& painting) {
+    List pieces{json, '[', ']'};
+    for (const PaintedText& text : painting.texts) {
+        pieces.Next();
+        List object{json, '{', '}'};
+        object.Member("x", text.x);
+        object.Member("y", text.y);
+        object.Member("text", text.text);
+        object.Member("font", Font_name(text.look.font));
+        object.Member("bold", text.look.bold);
+        object.Member("small", text.look.small);
+        object.Member("right", text.look.right);
+        object.Member("fore", text.fore);
+    }
+    for (const PaintedPicture& picture : painting.pictures) {
+        pieces.Next();
+        List object{json, '{', '}'};
+        object.Member("x", picture.x);
+        object.Member("y", picture.y);
+        object.Member("w", picture.w);
+        object.Member("h", picture.h);
+        object.Member("picture", picture.key);
+    }
+}
+
+void Append_explanations(std::string& json, const ConnectionState& s) {
+    List windows{json, '{', '}'};
+    for (const ExplanationWindow& window : explanation_windows) {
+        windows.Name(window.name);
+        const Painting painting = Paint_explanation(window, s);
+        List object{json, '{', '}'};
+        object.Member("caption", painting.caption);
+        object.Name("painting");
+        Append_painting(json, painting);
+    }
+}
+
 } // namespace
 
 void Append_json(std::string& json, std::string_view text) {
@@ -226,7 +329,8 @@ void Append_json(std::string& json, std::string_view text) {
 }
 
 void Append_result(std::string& json, const Options& options, const std::string& project, const ConnectionState& s,
-                   const Screen& screen, const PassResult& result, const RecordingMessageBox& box) {
+                   const Screen& screen, const PassResult& result, const RecordingMessageBox& box,
+                   const RecordReport& record) {
     List object{json, '{', '}'};
     if (!project.empty()) {
         object.Member("project", project);
@@ -259,6 +363,13 @@ void Append_result(std::string& json, const Options& options, const std::string&
             Append_tables(json, screen);
         } else if (group == "pictures") {
             Append_pictures(json, screen);
+        } else if (group == "detail") {
+            // The window cannot be opened before a pass has come to its end.
+            Append_painting(json, result.end == PassEnd::normal ? Paint_detailed(s) : Painting{});
+        } else if (group == "explanations") {
+            Append_explanations(json, s);
+        } else if (group == "report") {
+            Append_report(json, record ? record() : std::vector<PrintCall>{});
         }
     }
 }

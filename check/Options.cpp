@@ -10,7 +10,7 @@ namespace tarnvik {
 
 namespace {
 
-constexpr std::array<std::string_view, 3> groups{"screen", "tables", "pictures"};
+constexpr std::array<std::string_view, 6> groups{"screen", "tables", "pictures", "report", "detail", "explanations"};
 // The tables behind the state, shown when they are asked for by name.
 constexpr std::array<std::string_view, 3> tables{"Mat", "Prof", "Setup"};
 
@@ -40,10 +40,12 @@ opened and checked.
   --lang Eng|Nor     language of a new project (default: the setup file's)
   --set NAME=VALUE   write an input before the check; repeatable, in the order given
   --json             one JSON object a line instead of the readable summary
-  --with GROUPS      more in the JSON, separated by commas: screen,tables,pictures
+  --with GROUPS      more in the JSON, separated by commas:
+                     screen,tables,pictures,report,detail,explanations
   --fields A,B,...   only these names of the state; Mat, Prof and Setup show the tables
   --batch            read inputs as JSON Lines from standard input, one result a line
   --save FILE        save the project after the check
+  --report FILE.pdf  write the two-page report
   --pictures DIR     write every stored picture, as PNG and SVG, under its key
   --help             this text
   --version          the version
@@ -120,7 +122,8 @@ Options Parse_options(const std::vector<std::string>& arguments) {
         } else if (name == "--with") {
             for (std::string& group : Split_list(value("a list of groups"))) {
                 if (std::find(groups.begin(), groups.end(), group) == groups.end()) {
-                    throw UsageError{"--with: unknown group \"" + group + "\", expected screen,tables,pictures"};
+                    throw UsageError{"--with: unknown group \"" + group +
+                                     "\", expected screen,tables,pictures,report,detail,explanations"};
                 }
                 options.with.push_back(std::move(group));
             }
@@ -139,6 +142,8 @@ Options Parse_options(const std::vector<std::string>& arguments) {
             options.json = true;
         } else if (name == "--save") {
             options.save = value("a file");
+        } else if (name == "--report") {
+            options.report = value("a file");
         } else if (name == "--pictures") {
             options.pictures = value("a folder");
         } else if (name == "--help") {
@@ -158,6 +163,9 @@ Options Parse_options(const std::vector<std::string>& arguments) {
     }
     if (options.save && (options.batch || options.projects.size() > 1)) {
         throw UsageError{"--save: expected one project, or none"};
+    }
+    if (options.report && (options.batch || options.projects.size() > 1)) {
+        throw UsageError{"--report: expected one project, or none"};
     }
     return options;
 }

@@ -19,6 +19,7 @@ struct Options {
     std::vector<std::string> with;                  // groups
     std::optional<std::vector<std::string>> fields; // names of the state
     std::optional<std::string> save;
+    std::optional<std::string> report;   // --report: the PDF file
     std::optional<std::string> pictures; // --pictures: the folder
     std::vector<std::string> projects;
 };

@@ -10,6 +10,8 @@
 #include "calc/RuntimeFault.h"
 #include "frontend/Controls.h"
 #include "frontend/PictureStore.h"
+#include "frontend/QtPrintTarget.h"
+#include "frontend/QtServices.h"
 
 namespace tarnvik {
 
@@ -72,6 +74,13 @@ int QtRendering::Write_pictures(const std::filesystem::path& folder) {
         ++written;
     }
     return written;
+}
+
+void QtRendering::Write_report(const std::filesystem::path& file, const std::string& title,
+                               const std::function<void(PrintTarget&, const Moment&)>& draw) {
+    Start();
+    const std::unique_ptr<PrintTarget> target = Pdf_target(file, title);
+    draw(*target, QtClock{}.Now());
 }
 
 } // namespace tarnvik

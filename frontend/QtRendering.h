@@ -17,6 +17,8 @@ public:
     ~QtRendering() override;
 
     int Write_pictures(const std::filesystem::path& folder) override;
+    void Write_report(const std::filesystem::path& file, const std::string& title,
+                      const std::function<void(PrintTarget&, const Moment&)>& draw) override;
 
 private:
     void Start();

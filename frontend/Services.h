@@ -2,11 +2,13 @@
 #pragma once
 
 #include <functional>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
 
 #include "calc/MessageBox.h"
+#include "report/PrintTarget.h"
 
 namespace tarnvik {
 
@@ -39,6 +41,25 @@ public:
     // The chosen path, or nothing where the dialog was cancelled.
     virtual std::optional<std::string> Open(const FileRequest& request) = 0;
     virtual std::optional<std::string> Save(const FileRequest& request) = 0;
+};
+
+// What the printer dialog is asked for. Flags are those of the common dialog: 4 no selection, 1048576 (hexadecimal
+// 100000) no box for printing to a file.
+struct PrinterRequest {
+    int flags{};
+    std::string document; // the job's name
+};
+
+class PrinterService {
+public:
+    PrinterService() = default;
+    PrinterService(const PrinterService&) = delete;
+    PrinterService& operator=(const PrinterService&) = delete;
+    virtual ~PrinterService() = default;
+
+    // The dialog, and the print job that it leads to; null where it was cancelled. A job that is not ended is dropped.
+    // Errors: throws RuntimeFault where no job can be started.
+    virtual std::unique_ptr<PrintTarget> Show_printer(const PrinterRequest& request) = 0;
 };
 
 // Opens a document or a link with the desktop's own program.

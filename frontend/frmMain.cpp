@@ -672,6 +672,7 @@ void frmMain::Connect_handlers() {
         frmAbout window{*this};
         Show_modal(window);
     });
+    on_action("mnuprint", [this] { Print_report(); });
     on_action("mmuTheory", [this] { Open_manual(); });
 }
 
@@ -704,6 +705,23 @@ void frmMain::Open_manual() {
         services_.boxes.Show((Is_english(s_) ? " Can't open the file " : " Kan ikke åpne filen ") + path.string(),
                              box_exclamation);
     }
+}
+
+void frmMain::Print_report() {
+    constexpr int no_selection_no_file_box = 0x100004;
+    try {
+        const auto target = services_.printer.Show_printer({no_selection_no_file_box, s_.Prosjekt});
+        if (target != nullptr) {
+            PrintReport(*target, s_, {screen_.Pic_forbindelse, screen_.Pic_av_bolter}, services_.clock.Now(),
+                        report_texts_);
+            target->EndDoc();
+            return;
+        }
+    } catch (const RuntimeFault&) {   // NOLINT(bugprone-empty-catch): told as a cancelled dialog is
+    } catch (const std::exception&) { // NOLINT(bugprone-empty-catch): the same
+    }
+    // Whatever happened, in English in both languages, and then the end of the work with the window.
+    services_.boxes.Show_then("User pressed the Cancel button", box_exclamation, [this] { close(); });
 }
 
 bool frmMain::event(QEvent* event) {
@@ -773,6 +791,7 @@ void frmMain::Open_path(const std::string& path) {
     }
     // What follows runs whether or not the file could be read.
     s_.File_name = path;
+    s_.File_named = true;
     Set_caption();
     cur_dir_ = U(QDir::currentPath());
     try {
@@ -883,6 +902,7 @@ void frmMain::File_menu(int Index) {
     case 2:
         try {
             save();
+            s_.File_named = true;
         } catch (const RuntimeFault& fault) {
             services_.boxes.Show(Fault_text(fault), box_plain);
         }
@@ -897,6 +917,7 @@ void frmMain::File_menu(int Index) {
             return;
         }
         s_.File_name = *path;
+        s_.File_named = true;
         try {
             save();
         } catch (const RuntimeFault&) { // NOLINT(bugprone-empty-catch): a failed statement of save as is skipped

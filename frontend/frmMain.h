@@ -19,6 +19,8 @@
 #include "frontend/Languages.h"
 #include "frontend/Layout.h"
 #include "frontend/Services.h"
+#include "report/Clock.h"
+#include "report/PrintReport.h"
 
 class QAction;
 class QDialog;
@@ -32,6 +34,8 @@ struct Services {
     FileDialogs& files;
     DocumentOpener& opener;
     SettingsStore& settings;
+    PrinterService& printer;
+    Clock& clock;
 };
 
 class frmMain : public QMainWindow {
@@ -133,6 +137,7 @@ private:
     void Opt_bolt_bulldog(int Index);
     void Check_man_click(bool checked);
     void Open_manual();
+    void Print_report();
     void Show_connector_frames(bool shown);
     void Activate();
     void Fill_bulldog();
@@ -149,6 +154,7 @@ private:
     std::map<std::string, QObject*, std::less<>> controls_;
     std::map<std::string, QAction*, std::less<>> actions_;
     std::unique_ptr<Frm_tarn_vik_fak_klass> classes_;
+    SpacingTexts report_texts_; // outlive a print
     QPointer<TextBox> refused_;
     bool told_{};                      // the refusal has a message
     std::function<void()> on_release_; // waits for the mouse button

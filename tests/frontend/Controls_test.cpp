@@ -149,7 +149,7 @@ TEST_F(Controls, TheMenuBarInItsOrder) {
 }
 
 TEST_F(Controls, TheMenusAsBuilt) {
-    window = std::make_unique<frmMain>(s, Services{boxes, dialogs, opener, settings}, folder.Path());
+    window = std::make_unique<frmMain>(s, Services{boxes, dialogs, opener, settings, printer, clock}, folder.Path());
     EXPECT_EQ(Text("mnufile"), "&File");
     EXPECT_EQ(Text("mnuFileItem(1)"), "&Åpne");
     EXPECT_EQ(Text("mnuFileItem(2)"), "&Lagre");

@@ -59,7 +59,7 @@ TEST_F(StartUp, SelectsTheStartValues) {
 TEST_F(StartUp, HasCalculatedOnceBeforeTheFirstInput) {
     int before = -1;
     Write_setup_language("Eng");
-    window = std::make_unique<frmMain>(s, Services{boxes, dialogs, opener, settings}, folder.Path());
+    window = std::make_unique<frmMain>(s, Services{boxes, dialogs, opener, settings, printer, clock}, folder.Path());
     QObject::connect(window.get(), &frmMain::Calculated, window.get(), [this] { ++passes; });
     before = passes;
     window->Load();
@@ -156,7 +156,7 @@ TEST_F(StartUp, AMissingMaterialOrProfileFileEndsTheStartWithItsNameAndFolder) {
     for (const char* file : {"TarnvikMaterial.csv", "TarnvikProfile.csv"}) {
         const std::string kept = Read_file(folder / file);
         std::filesystem::remove(folder / file);
-        window = std::make_unique<frmMain>(s, Services{boxes, dialogs, opener, settings}, folder.Path());
+        window = std::make_unique<frmMain>(s, Services{boxes, dialogs, opener, settings, printer, clock}, folder.Path());
         try {
             window->Load();
             FAIL() << "started without " << file;

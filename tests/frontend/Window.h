@@ -123,7 +123,7 @@ protected:
         Start_as_is();
     }
     void Start_as_is() {
-        window = std::make_unique<frmMain>(s, Services{boxes, dialogs, opener, settings}, folder.Path());
+        window = std::make_unique<frmMain>(s, Services{boxes, dialogs, opener, settings, printer, clock}, folder.Path());
         QObject::connect(window.get(), &frmMain::Calculated, window.get(), [this] { ++passes; });
         window->Load();
         ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
@@ -246,6 +246,8 @@ protected:
     ScriptedDialogs dialogs;
     RecordingOpener opener;
     MemorySettingsStore settings;
+    ScriptedPrinter printer;
+    StoppedClock clock;
     ConnectionState s;
     std::unique_ptr<frmMain> window;
     int passes{}; // since the start

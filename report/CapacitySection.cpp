@@ -1,0 +1,376 @@
+#include <array>
+#include <cmath>
+#include <initializer_list>
+#include <string>
+
+#include "report/Sections.h"
+
+namespace tarnvik {
+
+namespace {
+
+struct Words {
+    std::string_view eng, nor;
+};
+
+constexpr std::string_view In(bool eng, const Words& words) {
+    return eng ? words.eng : words.nor;
+}
+
+std::string Join(std::initializer_list<std::string_view> parts) {
+    std::string text;
+    for (const std::string_view part : parts) {
+        text += part;
+    }
+    return text;
+}
+
+// Everything that hangs on Con_code.
+struct CodeTexts {
+    std::string_view Con_code;
+    Words angle;
+    double angle_value_x;
+    Words member_t1, member_t2; // labels of the embedment rows
+    Words note_t1, note_t2;     // behind the thicknesses
+};
+
+// Blanks and misspellings belong to the texts; so does the English noun of the Norwegian "  (Enkel beam)".
+// clang-format off
+constexpr Words angle_chords{"Angle between top- and bottom chord, alpha =", "Vinkel mellom overgurt og undergurt, alpha ="};
+constexpr Words angle_beam  {"Angle between beam and column, alpha =",       "Vinkel mellom bjelke og søyle, alpha ="};
+
+constexpr Words single_top_chord   {"  (Single top chord)",    "  (Enkel overgurt)"};
+constexpr Words double_top_chord   {"  (Double top chord)",    "  (Dobbel overgurt)"};
+constexpr Words single_bottom_chord{"  (Single bottom chord)", "  (Enkel undergurt)"};
+constexpr Words double_bottom_chord{"  (Double bottom chord)", "  (Dobbel undergurt)"};
+constexpr Words single_column      {"  (Single column)",       "  (Enkel søyle)"};
+constexpr Words double_column      {"  (Double column)",       "  (Dobbel søyle)"};
+constexpr Words single_beam        {"  (Single beam)",         "  (Enkel bjelke)"};
+constexpr Words single_beam_mixed  {"  (Single beam)",         "  (Enkel beam)"};
+constexpr Words double_beam        {"  (Double beam)",         "  (Dobbel bjelke)"};
+
+constexpr std::array<CodeTexts, 15> code_texts{{
+    // code   angle         its value  row of t1                                  row of t2                                      note of t1           note of t2
+    {"1.1",   angle_chords, 60,        {"Top chord    :", "Overgurt     :"},      {"Bottom chord    :", "Undergurt     :"},      single_top_chord,    single_bottom_chord},
+    {"1.2",   angle_chords, 60,        {"Top chord    :", "Overgurt     :"},      {"Bottom chord    :", "Undergurt     :"},      double_top_chord,    single_bottom_chord},
+    {"1.3",   angle_chords, 60,        {"Bottom chord :", "Undergurt    :"},      {"Top chord :",       "Overgurt    :"},        double_bottom_chord, single_top_chord},
+    {"2.1",   angle_beam,   70,        {"Column :",       "Søyle   :"},           {"Beam  :",           "Bjelke  :"},            single_column,       single_beam},
+    {"2.2",   angle_beam,   70,        {"Beam :",         "Bjelke   :"},          {"Column  :",         "Søyle   :"},            double_beam,         single_column},
+    {"2.3",   angle_beam,   70,        {"Column :",       "Søyle   :"},           {"Beam  :",           "Bjelke  :"},            double_column,       single_beam_mixed},
+    {"3.1",   angle_chords, 65,        {"Bottom chord :", "Undergurt    :"},      {"Top chord :",       "Overgurt    :"},        single_bottom_chord, single_top_chord},
+    {"3.2",   angle_chords, 65,        {"Top chord :",    "Overgurt    :"},       {"Bottom chord :",    "Undergurt    :"},       double_top_chord,    single_bottom_chord},
+    {"3.3",   angle_chords, 65,        {"Bottom chord :", "Undergurt    :"},      {"Top chord :",       "Overgurt    :"},        double_bottom_chord, single_top_chord},
+    {"4.1",   angle_beam,   56,        {"Column :",       "Søyle   :"},           {"Beam  :",           "Bjelke  :"},            single_column,       single_beam},
+    {"4.2",   angle_beam,   56,        {"Beam :",         "Bjelke   :"},          {"Column  :",         "Søyle   :"},            double_beam,         single_column},
+    {"4.3",   angle_beam,   56,        {"Column :",       "Søyle   :"},           {"Beam  :",           "Bjelke  :"},            double_column,       single_beam_mixed},
+    {"5.1",   angle_beam,   56,        {"Column :",       "Søyle   :"},           {"Beam  :",           "Bjelke  :"},            single_column,       single_beam},
+    {"5.2",   angle_beam,   56,        {"Beam :",         "Bjelke   :"},          {"Column  :",         "Søyle   :"},            double_beam,         single_column},
+    {"5.3",   angle_beam,   56,        {"Column :",       "Søyle   :"},           {"Beam  :",           "Bjelke  :"},            double_column,       single_beam_mixed},
+}};
+
+struct ModeRow {
+    double y; // down from the anchor
+    std::string_view label;
+    float ConnectionValues::*Fv;
+};
+
+constexpr std::array<ModeRow, 6> single_modes{{
+    { 68, "Rk(a) = ", &ConnectionValues::Fv_a},
+    { 75, "Rk(b) = ", &ConnectionValues::Fv_b},
+    { 83, "Rk(c) = ", &ConnectionValues::Fv_c},
+    { 99, "Rk(d) = ", &ConnectionValues::Fv_d},
+    {115, "Rk(e) = ", &ConnectionValues::Fv_e},
+    {130, "Rk(f) = ", &ConnectionValues::Fv_f},
+}};
+constexpr std::array<ModeRow, 4> double_modes{{
+    { 68, "Rk(g) = ", &ConnectionValues::Fv_g},
+    { 75, "Rk(h) = ", &ConnectionValues::Fv_h},
+    { 88, "Rk(j) = ", &ConnectionValues::Fv_j},
+    {105, "Rk(k) = ", &ConnectionValues::Fv_k},
+}};
+
+struct EquationPicture {
+    std::string_view picture;
+    double y, width, height; // top and size on the page; all stand at x = 30
+};
+
+constexpr std::array<EquationPicture, 6> single_equations{{
+    {"Frm_tarn_vik_likninger/Pic_r_a", 112,  18,  7},
+    {"Frm_tarn_vik_likninger/Pic_r_b", 105,  18,  7},
+    {"Frm_tarn_vik_likninger/Pic_r_c",  98, 111, 15},
+    {"Frm_tarn_vik_likninger/Pic_r_d",  84, 111, 15},
+    {"Frm_tarn_vik_likninger/Pic_r_e",  68, 109, 15},
+    {"Frm_tarn_vik_likninger/Pic_r_f",  54,  60, 15},
+}};
+constexpr std::array<EquationPicture, 4> double_equations{{
+    {"Frm_tarn_vik_likninger/Pic_r_g", 112,  18,  7},
+    {"Frm_tarn_vik_likninger/Pic_r_h", 103,  18,  7},
+    {"Frm_tarn_vik_likninger/Pic_r_j",  94, 111, 15},
+    {"Frm_tarn_vik_likninger/Pic_r_k",  78,  60, 15},
+}};
+// clang-format on
+
+bool Single_shear(const ConnectionValues& s) {
+    return s.enk_1 && s.enk_2;
+}
+
+bool Double_shear(const ConnectionValues& s) {
+    return s.dob_1 || s.dob_2;
+}
+
+const CodeTexts* Texts_of(const ConnectionValues& s) {
+    for (const CodeTexts& row : code_texts) {
+        if (s.Con_code == row.Con_code) {
+            return &row;
+        }
+    }
+    return nullptr;
+}
+
+ShortText Load(const ConnectionValues& s) {
+    return Format(std::fabs(s.P), "0.00");
+}
+
+std::string Kilonewtons(float value) {
+    return Join({Format(value, "0.00"), "  kN"});
+}
+
+// fh,alpha = fh0k / (k90 sin2 alpha + cos2 alpha), EN 1995-1-1:2004+A1:2008, (8.31), set by hand from pieces.
+void PrintFhk(PrintTarget& target, double y, double x, float value, int member) {
+    Print_at(target, x - 3, y, member == 1 ? "fh1k =" : "fh2k =");
+    Print_at(target, x + 24, y + 2, "fh0k");
+    Print_at(target, x + 6, y + 1.5, "_____________________ ");
+    Print_at(target, x + 7, y - 4, "k90 x sin");
+    Print_at(target, x + 20, y - 4, "alpha");
+    Print_at(target, x + 27, y - 4, " +  cos");
+    Print_at(target, x + 36, y - 4, "alpha");
+    Print_at(target, x + 35, y - 2, "2");
+    Print_at(target, x + 19, y - 2, "2");
+    Print_at(target, x + 42, y, Join({"=  ", Format(value, "0.00")}));
+}
+
+void PrintEmbedment(PrintTarget& target, const ConnectionValues& s, double y1, double y2, double x) {
+    const bool eng = Is_english(s);
+    const CodeTexts* texts = Texts_of(s);
+    const auto row = [&](double y, const Words& label, float alp, float value, int member) {
+        if (texts != nullptr) {
+            Print_at(target, x, y, In(eng, label));
+        }
+        Print_at(target, x + 15, y, " alpha =");
+        Print_at(target, x + 27, y, Format(alp, "0.0"));
+        PrintFhk(target, y, x + 37, value, member);
+    };
+    row(y1, texts != nullptr ? texts->member_t1 : Words{}, s.alp1, s.fh1k, 1);
+    row(y2, texts != nullptr ? texts->member_t2 : Words{}, s.alp2, s.fh2k, 2);
+}
+
+// Con_type chooses the group of codes that is tried: 1, then 2, 4 and 5 together, then 3. A code outside the group
+// prints nothing.
+bool Code_in_group_of_type(const ConnectionValues& s) {
+    const char digit = s.Con_code.View().front();
+    switch (s.Con_type) {
+    case 1:
+        return digit == '1';
+    case 2:
+    case 4:
+    case 5:
+        return digit == '2' || digit == '4' || digit == '5';
+    case 3:
+        return digit == '3';
+    default:
+        return false;
+    }
+}
+
+void PrintBeta(PrintTarget& target, const ConnectionValues& s, double y, double x) {
+    const CodeTexts* texts = Texts_of(s);
+    if (texts == nullptr || !Code_in_group_of_type(s)) {
+        return;
+    }
+    const bool eng = Is_english(s);
+    Print_at(target, x, y, Join({"Beta :  fh2k / fh1k = ", Format(s.beta, "0.00 ")}));
+    Print_at(target, x, y - 5, Join({s.t1_txt, Format(s.t1, "0.00"), In(eng, texts->note_t1)}));
+    Print_at(target, x, y - 10, Join({s.t2_txt, Format(s.t2, "0.00"), In(eng, texts->note_t2)}));
+}
+
+// The equation stands as a picture between label and equals sign.
+void PrintRk(PrintTarget& target, const ConnectionValues& s, const ModeRow& mode, double y, double x) {
+    Print_at(target, x, y, mode.label);
+    Print_at(target, x + 150, y, "=");
+    Print_bold_at(target, x + 153, y, Kilonewtons(static_cast<float>(static_cast<double>(s.*mode.Fv) / 1000.0)));
+}
+
+void PrintEffectiveNumbers(PrintTarget& target, const ConnectionValues& s, double y, double x) {
+    const bool eng = Is_english(s);
+    Print_at(target, x, y, eng ? "Number of effektive bolts " : "Effektive antall bolter ");
+    Print_at(target, x + 75, y, "=");
+    Print_bold_at(target, x + 80, y, s.Has_row ? Format(s.nef_b, "0.00") : Format(s.n_bolt, "0"));
+    if (s.Med_bulldog) {
+        Print_at(target, x + 90, y, eng ? "Number of effektive connectors " : "Effektive antall forbindere ");
+        Print_at(target, x + 150, y, "=");
+        if (s.Has_row) {
+            Print_bold_at(target, x + 153, y, Format(s.nef_f, "0.00"));
+        } else {
+            Print_bold_at(target, x + 150, y, Format(s.n_bolt, "0")); // over the equals sign, as the layout has it
+        }
+    }
+}
+
+void PrintSplitting(PrintTarget& target, const ConnectionValues& s, double y, double x) {
+    Print_at(target, x, y,
+             Join({Is_english(s) ? "Control of splitting capacity,  he = " : "Kontrol av tverrsnittsbrudd,  he = ",
+                   Format(s.he, "0")}));
+    Print_at(target, x + 75, y, "=   P x sin alpha / F90,Rd =");
+    Print_at(target, x + 113, y, Join({Format(s.P_sin, "0.00"), " / ", Format(s.F90_Rd, "0.00")}));
+    Print_at(target, x + 150, y, "=");
+    Print_bold_at(target, x + 153, y, Format(s.Tverr_kontroll, "0.00"));
+}
+
+// Rule and value of a design capacity, for single and double shear.
+void PrintRule(PrintTarget& target, const ConnectionValues& s, double y, double x, const Words& single_rule,
+               const Words& double_rule, float value) {
+    const bool eng = Is_english(s);
+    if (Single_shear(s)) {
+        Print_at(target, x + 80, y, In(eng, single_rule));
+    }
+    if (Double_shear(s)) {
+        Print_at(target, x + 80, y, In(eng, double_rule));
+    }
+    Print_at(target, x + 150, y, "=");
+    Print_bold_at(target, x + 153, y, Kilonewtons(value));
+}
+
+// Figures of a check: what is divided, "=" and the utilisation.
+void PrintCheck(PrintTarget& target, const ConnectionValues& s, double y, double x, std::string_view figures) {
+    Print_at(target, x + 79, y, figures);
+    Print_at(target, x + 150, y, "=");
+    Print_bold_at(target, x + 153, y, Format(s.uf, "0.00"));
+}
+
+// clang-format off
+constexpr Words bolts_single     {"Rk x kmod x number of effective bolts /gm",         "Rk x kmod x antall effektive bolter /gm"};
+constexpr Words bolts_double     {"Rk x kmod x number of effective bolts x 2 /gm",     "Rk x kmod x antall effektive bolter x 2 /gm"};
+constexpr Words connectors_single{"Rk x kmod x number of effective connectors/gm",     "Rk x kmod x antall effektive forbindere/gm"};
+constexpr Words connectors_double{"Rk x kmod x number of effective connectors x 2 /gm", "Rk x kmod x antall effektive forbindere x 2 /gm"};
+// clang-format on
+
+void PrintRdBolt(PrintTarget& target, const ConnectionValues& s, double y, double x) {
+    Print_at(target, x, y,
+             Is_english(s) ? "Design capacity of the bolts, Rd_bolt" : "Dimensjonerende kapasitet av bolter, Rd_bolt ");
+    Print_at(target, x + 75, y, "=");
+    PrintRule(target, s, y, x, bolts_single, bolts_double, s.Rd_bolt);
+    if (s.Kun_bolt) {
+        Print_at(target, x, y - 6, "Kontroll = P / Rd_b"); // Norwegian in both languages
+        Print_at(target, x + 75, y - 6, "=");
+        PrintCheck(target, s, y - 6, x, Join({Load(s), " / ", Format(s.Rd_bolt, "0.00")}));
+    }
+}
+
+void PrintRdConnector(PrintTarget& target, const ConnectionValues& s, double y, double x) {
+    const bool eng = Is_english(s);
+    Print_at(target, x, y,
+             eng ? "Design capacity of Connectors, Rd_con."
+                 : "Dimensjonerende kapasitet av tannete forbindere, Rd_for.");
+    Print_at(target, x + 75, y, "=");
+    PrintRule(target, s, y, x, connectors_single, connectors_double, s.Rd_for);
+    Print_at(target, x, y - 6, eng ? "Kontroll = P / ( Rd_bolt + Rd_con.)" : "Kontroll = P / ( Rd_bolt + Rd_for. )");
+    Print_at(target, x + 75, y - 6, "=");
+    // The figures stand 2 units below their label, unlike those of the bolts.
+    PrintCheck(target, s, y - 8, x,
+               Join({Load(s), " / ", " ( ", Format(s.Rd_bolt, "0.00"), " + ", Format(s.Rd_for, "0.00"), " ) "}));
+}
+
+// Where PrintCapacity runs, and with it what the places of the equations fit.
+constexpr double anchor_y = 177;
+
+} // namespace
+
+std::optional<double> Equation_row(std::string_view picture) {
+    for (std::size_t i = 0; i < single_equations.size(); ++i) {
+        if (picture == single_equations[i].picture) {
+            return anchor_y - single_modes[i].y;
+        }
+    }
+    for (std::size_t i = 0; i < double_equations.size(); ++i) {
+        if (picture == double_equations[i].picture) {
+            return anchor_y - double_modes[i].y;
+        }
+    }
+    return std::nullopt;
+}
+
+void PrintCapacity(PrintTarget& target, const ConnectionValues& s, double X, double Y) {
+    const bool eng = Is_english(s);
+    const bool single_shear = Single_shear(s);
+    const bool double_shear = Double_shear(s);
+    const auto d = Format(s.d, "00");
+
+    if (single_shear) {
+        Print_bold_at(target, X, Y, eng ? "Single shear=" : "Enkelsnittet forbindelse :");
+    }
+    if (double_shear) {
+        Print_bold_at(target, X, Y, eng ? "Double shear=" : "Dobbelsnittet forbindelse :");
+    }
+    Print_at(target, X, Y - 5,
+             eng ? "Calculations of k90 and characteristic embedment strength fhk :"
+                 : "Beregning av k90 og karakteristisk flatetrykk fhk :  ");
+
+    Print_at(target, X, Y - 10, "k90 = 1.35 + 0.015 x d   = ");
+    Print_at(target, X + 35, Y - 10, Join({"1.35", " + ", "0.015", " x ", d, "  ="}));
+    Print_at(target, X + 63, Y - 10, Format(s.k90, "0.00"));
+
+    Print_at(target, X, Y - 15, "fh0k = 0.082 x (1 - 0.01 x d) x pk  = ");
+    Print_at(target, X + 48, Y - 15,
+             Join({" 0.082", " x  ( ", "1 - ", "0.01  x ", d, ")", " x ", Format(s.rho_k, "00"), " = "}));
+    Print_at(target, X + 95, Y - 15, Format(s.fh0k, "0.00"));
+
+    if (const CodeTexts* texts = Texts_of(s)) {
+        Print_at(target, X, Y - 20, In(eng, texts->angle));
+        Print_at(target, X + texts->angle_value_x, Y - 20, Format(s.alp, "0.0"));
+    }
+    PrintEmbedment(target, s, Y - 27, Y - 37, X);
+    PrintBeta(target, s, Y - 46, X);
+
+    if (single_shear) {
+        Print_at(target, X, Y - 62,
+                 eng ? "Characteristic capacity of a single shear plane pr. bolt :"
+                     : "Karakteristisk kapasitet av et enkelt snitt pr. bolt :");
+        for (const ModeRow& mode : single_modes) {
+            PrintRk(target, s, mode, Y - mode.y, X);
+        }
+    }
+    if (double_shear) {
+        Print_at(target, X, Y - 61,
+                 eng ? "Characteristic capacity of a single shear plane :"
+                     : "Karakteristisk kapasitet av et enkelt snitt :");
+        for (const ModeRow& mode : double_modes) {
+            PrintRk(target, s, mode, Y - mode.y, X);
+        }
+    }
+
+    const double y = Y - (single_shear ? 141 : 120);
+    PrintEffectiveNumbers(target, s, y, X);
+    PrintSplitting(target, s, y - 6, X);
+    PrintRdBolt(target, s, y - 12, X);
+    if (s.Med_bulldog) {
+        PrintRdConnector(target, s, y - 18, X);
+    }
+}
+
+void PrintEquations(PrintTarget& target, const ConnectionValues& s) {
+    const auto paint = [&target](const EquationPicture& equation) {
+        PrintPicture(target, equation.picture, 30, equation.y, equation.width, equation.height);
+    };
+    if (Single_shear(s)) {
+        for (const EquationPicture& equation : single_equations) {
+            paint(equation);
+        }
+    }
+    if (Double_shear(s)) {
+        for (const EquationPicture& equation : double_equations) {
+            paint(equation);
+        }
+    }
+}
+
+} // namespace tarnvik

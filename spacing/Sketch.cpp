@@ -381,11 +381,21 @@ double Span(const TextSize& size, Point direction) {
     return std::fabs(size.width * direction.x) + std::fabs(size.height * direction.y);
 }
 
-// Where the label of a segment stands: beside its middle.
-Point Label_at(Point from, Point to, Point outward, const std::string& text) {
-    const TextSize size = Size_of(TextShape{{}, text, false});
-    const double off = Span(size, outward) / 2.0 + label_gap;
-    return 0.5 * (from + to) + off * outward;
+// Where the label of a segment stands: beside its middle; the first and the last of a chain give way outward where the
+// segments are hardly wider than their labels.
+Point Label_at(const Chain& chain, std::size_t segment) {
+    const Point from = chain.ticks[segment];
+    const Point to = chain.ticks[segment + 1];
+    const TextSize size = Size_of(TextShape{{}, std::string{chain.labels[segment]}, false});
+    const double off = Span(size, chain.outward) / 2.0 + label_gap;
+    const Point d = to - from;
+    const double length = std::hypot(d.x, d.y);
+    const Point direction = (1.0 / length) * d;
+    const double lacking = std::max(0.0, Span(size, direction) + 3.5 - length);
+    const bool first = segment == 0;
+    const bool last = segment + 1 == chain.labels.size();
+    const double shift = first == last ? 0.0 : (first ? -0.6 : 0.6) * lacking;
+    return 0.5 * (from + to) + off * chain.outward + shift * direction;
 }
 
 std::vector<std::string_view> Labels(char family, int from, int count) {
@@ -428,6 +438,66 @@ void Include(Rect& bounds, Point p, double by = 0.0) {
     bounds.right = std::max(bounds.right, p.x + by);
     bounds.bottom = std::min(bounds.bottom, p.y - by);
     bounds.top = std::max(bounds.top, p.y + by);
+}
+
+double Distance(Point p, Point a, Point b) {
+    const Point d = b - a;
+    const double length = Dot(d, d);
+    const double t = length == 0.0 ? 0.0 : std::clamp(Dot(p - a, d) / length, 0.0, 1.0);
+    const Point nearest = a + t * d;
+    return std::hypot(p.x - nearest.x, p.y - nearest.y);
+}
+
+double Distance(Point a, Point b, Point c, Point d) {
+    const auto turn = [](Point p, Point q, Point r) { return (q.x - p.x) * (r.y - p.y) - (q.y - p.y) * (r.x - p.x); };
+    if (turn(a, b, c) * turn(a, b, d) < 0.0 && turn(c, d, a) * turn(c, d, b) < 0.0) {
+        return 0.0;
+    }
+    return std::min({Distance(a, c, d), Distance(b, c, d), Distance(c, a, b), Distance(d, a, b)});
+}
+
+// The force along the axis of its member, at the first place from `start_u` on where the arrow and its letter stand
+// clear of the dimensions; at `start_u` where there is none.
+void Place_force(Composition& all, const Member& pushed, double start_u, bool compression) {
+    const double axis = (pushed.lines.front() + pushed.lines.back()) / 2.0;
+    const auto place = [&](double u, double side) {
+        const Point near = u * pushed.u + axis * pushed.m;
+        const Point far = (u + force_length) * pushed.u + axis * pushed.m;
+        all.force = compression ? std::array{far, near} : std::array{near, far};
+        all.force_label = 0.5 * (near + far) + (side * (letter_height / 2.0 + 5.0)) * pushed.m;
+    };
+    const auto clear = [&all] {
+        const Rect letter = Around(TextShape{all.force_label, "P", true}).Grown(3.0);
+        const auto line_clear = [&](Point a, Point b) {
+            return !Segment_touches(a, b, letter) && Distance(a, b, all.force[0], all.force[1]) >= 4.5;
+        };
+        for (const Chain& chain : all.chains) {
+            if (!line_clear(chain.ticks.front(), chain.ticks.back())) {
+                return false;
+            }
+            for (const auto& [from, to] : chain.extensions) {
+                if (!line_clear(from, to)) {
+                    return false;
+                }
+            }
+            for (std::size_t i = 0; i < chain.labels.size(); ++i) {
+                const Rect label = Around(TextShape{Label_at(chain, i), std::string{chain.labels[i]}, false});
+                if (label.Touches(letter) || Segment_touches(all.force[0], all.force[1], label.Grown(4.0))) {
+                    return false;
+                }
+            }
+        }
+        return true;
+    };
+    for (int step = 0; step < 8; ++step) {
+        for (const double side : {1.0, -1.0}) {
+            place(start_u + 5.0 * step, side);
+            if (clear()) {
+                return;
+            }
+        }
+    }
+    place(start_u, 1.0);
 }
 
 // Where the dimensions of a member stand. All combinations are tried; the one that lets the sketch be largest is taken.
@@ -582,11 +652,7 @@ Composition Compose(int case_row, bool compression, double unit, const Places& p
             start_u = std::max(start_u, Dot(chain.ticks.front(), pushed.u) + label_room + 5.0);
         }
     }
-    const double axis = (pushed.lines.front() + pushed.lines.back()) / 2.0;
-    const Point near = start_u * pushed.u + axis * pushed.m;
-    const Point far = (start_u + force_length) * pushed.u + axis * pushed.m;
-    all.force = compression ? std::array{far, near} : std::array{near, far};
-    all.force_label = 0.5 * (near + far) + (letter_height / 2.0 + 5.0) * pushed.m;
+    Place_force(all, pushed, start_u, compression);
 
     all.bounds = {1e9, -1e9, -1e9, 1e9};
     for (const Chain& chain : all.chains) {
@@ -594,7 +660,7 @@ Composition Compose(int case_row, bool compression, double unit, const Places& p
             Include(all.bounds, chain.ticks[i], 2.0);
             if (i > 0) {
                 const std::string text{chain.labels[i - 1]};
-                const Point centre = Label_at(chain.ticks[i - 1], chain.ticks[i], chain.outward, text);
+                const Point centre = Label_at(chain, i - 1);
                 const TextSize size = Size_of(TextShape{{}, text, false});
                 Include(all.bounds, centre + Point{size.width / 2.0, size.height / 2.0});
                 Include(all.bounds, centre - Point{size.width / 2.0, size.height / 2.0});
@@ -613,22 +679,6 @@ Composition Compose(int case_row, bool compression, double unit, const Places& p
         }
     }
     return all;
-}
-
-double Distance(Point p, Point a, Point b) {
-    const Point d = b - a;
-    const double length = Dot(d, d);
-    const double t = length == 0.0 ? 0.0 : std::clamp(Dot(p - a, d) / length, 0.0, 1.0);
-    const Point nearest = a + t * d;
-    return std::hypot(p.x - nearest.x, p.y - nearest.y);
-}
-
-double Distance(Point a, Point b, Point c, Point d) {
-    const auto turn = [](Point p, Point q, Point r) { return (q.x - p.x) * (r.y - p.y) - (q.y - p.y) * (r.x - p.x); };
-    if (turn(a, b, c) * turn(a, b, d) < 0.0 && turn(c, d, a) * turn(c, d, b) < 0.0) {
-        return 0.0;
-    }
-    return std::min({Distance(a, c, d), Distance(b, c, d), Distance(c, a, b), Distance(d, a, b)});
 }
 
 // Whether what is to be read stands clear: labels of each other, of fasteners and of lines; dimension lines and the
@@ -657,15 +707,13 @@ bool Stands_clear(const Composition& all) {
     std::vector<Rect> labels;
     for (const Chain& chain : all.chains) {
         for (std::size_t i = 0; i + 1 < chain.ticks.size(); ++i) {
-            const std::string text{chain.labels[i]};
-            const Point at = Label_at(chain.ticks[i], chain.ticks[i + 1], chain.outward, text);
-            labels.push_back(Around(TextShape{at, text, false}));
+            labels.push_back(Around(TextShape{Label_at(chain, i), std::string{chain.labels[i]}, false}));
         }
     }
     labels.push_back(Around(TextShape{all.force_label, "P", true}));
     for (std::size_t i = 0; i < labels.size(); ++i) {
         for (std::size_t j = i + 1; j < labels.size(); ++j) {
-            if (labels[i].Touches(labels[j])) {
+            if (labels[i].Grown(0.8).Touches(labels[j].Grown(0.8))) {
                 return false;
             }
         }
@@ -690,9 +738,69 @@ bool Stands_clear(const Composition& all) {
     return true;
 }
 
+// What makes a sketch harder to read without making it wrong, as a share of its size that it may cost to avoid it.
+double Flaws(const Composition& all) {
+    constexpr double crossing = 0.08;  // an extension line across a foreign dimension line
+    constexpr double near_line = 0.05; // one close to a foreign label
+    constexpr double on_edge = 0.015;  // a label on an edge of a member
+    constexpr double force_line = 0.10;
+    constexpr double tight = 0.04; // labels of different members close together
+    double flaws = 0.0;
+    for (const Chain& chain : all.chains) {
+        for (const Chain& other : all.chains) {
+            for (const auto& [from, to] : chain.extensions) {
+                if (&chain == &other) {
+                    continue;
+                }
+                flaws += Distance(from, to, other.ticks.front(), other.ticks.back()) < 2.0 ? crossing : 0.0;
+                for (std::size_t i = 0; i < other.labels.size(); ++i) {
+                    const TextShape label{Label_at(other, i), std::string{other.labels[i]}, false};
+                    flaws += Segment_touches(from, to, Around(label).Grown(3.0)) ? near_line : 0.0;
+                }
+            }
+            for (std::size_t i = 0; i < chain.labels.size() && &chain < &other; ++i) {
+                const Rect one = Around(TextShape{Label_at(chain, i), std::string{chain.labels[i]}, false}).Grown(3.5);
+                for (std::size_t j = 0; j < other.labels.size(); ++j) {
+                    const TextShape label{Label_at(other, j), std::string{other.labels[j]}, false};
+                    flaws += one.Touches(Around(label)) ? tight : 0.0;
+                }
+            }
+        }
+        for (const auto& [from, to] : chain.extensions) {
+            flaws += Distance(from, to, all.force[0], all.force[1]) < 3.0 ? force_line : 0.0;
+        }
+        for (std::size_t i = 0; i < chain.labels.size(); ++i) {
+            const Rect label = Around(TextShape{Label_at(chain, i), std::string{chain.labels[i]}, false});
+            for (const Member& member : all.joint.members) {
+                constexpr double far = 4000.0;
+                const double near_u = member.through ? -far : member.end_u;
+                const double top = member.lines.front();
+                const double low = member.lines.back();
+                for (const double edge : {top, low}) {
+                    const bool on =
+                        Segment_touches(near_u * member.u + edge * member.m, far * member.u + edge * member.m, label);
+                    flaws += on ? on_edge : 0.0;
+                }
+                if (!member.through) {
+                    const bool on = Segment_touches(member.end_u * member.u + top * member.m,
+                                                    member.end_u * member.u + low * member.m, label);
+                    flaws += on ? on_edge : 0.0;
+                }
+            }
+        }
+    }
+    return flaws;
+}
+
+// What a unit is worth: beyond a good size, clearness counts for more than size.
+double Worth(double unit) {
+    constexpr double good = 16.0;
+    return std::min(unit, good) + 0.35 * std::max(0.0, unit - good);
+}
+
 // The largest unit, in whole steps, at which the case with these places fits the room; 0 where there is none.
-double Largest_unit(int case_row, bool compression, const Places& places, double width, double height, double above) {
-    for (double unit = 30.0; unit >= 8.0 && unit > above; unit -= 1.0) {
+double Largest_unit(int case_row, bool compression, const Places& places, double width, double height, double score) {
+    for (double unit = 30.0; unit >= 8.0 && Worth(unit) > 1.04 * score; unit -= 1.0) {
         const Composition all = Compose(case_row, compression, unit, places);
         if (all.bounds.right - all.bounds.left + 2.0 * margin <= width &&
             all.bounds.top - all.bounds.bottom + 2.0 * margin <= height && Stands_clear(all)) {
@@ -713,17 +821,24 @@ void Paint_joint(Composer& composer, const Joint& joint) {
 } // namespace
 
 Sketch Draw_sketch(int case_row, bool compression, double width, double height) {
-    // The places that let the sketch be largest; the usual ones are kept where another choice gains little.
+    // The places that make the sketch large and clear; the usual ones are kept where another choice gains little.
     const TypeGeometry& geometry =
         type_geometry[static_cast<std::size_t>(case_table[static_cast<std::size_t>(case_row)].type - '1')];
     Places places{};
     double unit = 0.0;
+    double score = 0.0;
     for (unsigned choice = 0; choice < 64; ++choice) {
         const auto taken = [choice](unsigned bit) { return (choice >> bit & 1U) != 0; };
         const Places tried{Place{taken(2), !taken(0), taken(4) != geometry.member_1.along_first},
                            Place{taken(3), !taken(1), taken(5) != geometry.member_2.along_first}};
-        const double found = Largest_unit(case_row, compression, tried, width, height, 1.15 * unit);
-        if (found > 1.15 * unit) {
+        const double found = Largest_unit(case_row, compression, tried, width, height, score);
+        if (found <= 0.0) {
+            continue;
+        }
+        const double reached =
+            Worth(found) * (1.0 - Flaws(Compose(case_row, compression, found, tried))) - 0.004 * choice;
+        if (reached > 1.04 * score) {
+            score = reached;
             unit = found;
             places = tried;
         }
@@ -760,7 +875,7 @@ Sketch Draw_sketch(int case_row, bool compression, double width, double height) 
             composer.Arrow_head(from, -1.0 * direction, arrow_length, Pen::none, Tone::black);
             composer.Arrow_head(to, direction, arrow_length, Pen::none, Tone::black);
             const std::string text{chain.labels[i]};
-            const Point at = Label_at(from, to, chain.outward, text);
+            const Point at = Label_at(chain, i);
             composer.Text(at, text, false);
             sketch.distances.push_back(
                 {chain.labels[i], frame.Place(from), frame.Place(to), frame.Place(at), chain.across, chain.loaded[i]});

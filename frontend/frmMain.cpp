@@ -482,8 +482,8 @@ void frmMain::Refuse(TextBox& box, std::string_view text, int style, bool give_b
             Enter_box(*refused);
         }
         refused_ = nullptr;
-        // What was entered while the message waited starts its editing now.
-        if (auto* entered = dynamic_cast<TextBox*>(QApplication::focusWidget()); !give_back && entered != nullptr) {
+        // What was entered while the message waited starts its editing now. Its window need not be active again yet.
+        if (auto* entered = dynamic_cast<TextBox*>(focusWidget()); !give_back && entered != nullptr) {
             emit entered->Got_focus();
         }
     };

@@ -1,17 +1,23 @@
 #include "frontend/QtServices.h"
 
 #include <QApplication>
+#include <QDateTime>
 #include <QDesktopServices>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QLocale>
 #include <QMessageBox>
+#include <QPageSize>
+#include <QPrintDialog>
+#include <QPrinter>
 #include <QSettings>
 #include <QUrl>
 
 #include <algorithm>
 
 #include "frontend/Controls.h"
+#include "frontend/QtPrintTarget.h"
 
 namespace tarnvik {
 
@@ -26,6 +32,7 @@ QFileDialog::Options No_options() {
 }
 
 constexpr int flag_overwrite_prompt = 2;
+constexpr int flag_no_selection = 4;
 
 } // namespace
 
@@ -90,6 +97,35 @@ std::optional<std::string> QtFileDialogs::Save(const FileRequest& request) {
         return std::nullopt;
     }
     return U(dialog.selectedFiles().constFirst());
+}
+
+std::unique_ptr<PrintTarget> QtPrinterService::Show_printer(const PrinterRequest& request) {
+    auto printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
+    printer->setPageSize(QPageSize{QPageSize::A4}); // what the report is laid out for
+    printer->setDocName(Q(request.document));
+    QPrintDialog dialog{printer.get(), QApplication::activeWindow()};
+    dialog.setObjectName(QStringLiteral("PrinterDialog"));
+    dialog.setOption(QPrintDialog::PrintSelection, (request.flags & flag_no_selection) == 0);
+    // The report is always printed whole. The box for printing to a file, which the flags hide, is the entry "Print to
+    // File (PDF)" of the list of printers here: it stays, as the printer of a machine without one.
+    dialog.setOption(QPrintDialog::PrintPageRange, false);
+    dialog.setOption(QPrintDialog::PrintToFile, true);
+    if (dialog.exec() != QDialog::Accepted) {
+        return nullptr;
+    }
+    if (printer->outputFormat() == QPrinter::PdfFormat) {
+        return Pdf_target(printer->outputFileName().toStdString(), request.document, printer->pageLayout());
+    }
+    return Printer_target(std::move(printer));
+}
+
+Moment QtClock::Now() {
+    const QLocale locale = QLocale::system();
+    if (locale.language() == QLocale::C) { // whose short form of the toolkit is a long one
+        return SystemClock{}.Now();
+    }
+    const QDateTime now = QDateTime::currentDateTime();
+    return {U(locale.toString(now.date(), QLocale::ShortFormat)), U(now.time().toString(QStringLiteral("HH:mm:ss")))};
 }
 
 bool QtDocumentOpener::Open_file(const std::string& path) {

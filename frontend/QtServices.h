@@ -10,6 +10,7 @@
 
 #include "data/SettingsStore.h"
 #include "frontend/Services.h"
+#include "report/Clock.h"
 
 class QWidget;
 
@@ -39,6 +40,18 @@ class QtFileDialogs : public FileDialogs {
 public:
     std::optional<std::string> Open(const FileRequest& request) override;
     std::optional<std::string> Save(const FileRequest& request) override;
+};
+
+// The toolkit's printer dialog. PDF is always among its printers, and the only one where no other is installed.
+class QtPrinterService : public PrinterService {
+public:
+    std::unique_ptr<PrintTarget> Show_printer(const PrinterRequest& request) override;
+};
+
+// The system's clock, the date in the short form of the system's regional settings.
+class QtClock : public Clock {
+public:
+    Moment Now() override;
 };
 
 class QtDocumentOpener : public DocumentOpener {

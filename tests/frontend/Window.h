@@ -123,7 +123,8 @@ protected:
         Start_as_is();
     }
     void Start_as_is() {
-        window = std::make_unique<frmMain>(s, Services{boxes, dialogs, opener, settings, printer, clock}, folder.Path());
+        window = std::make_unique<frmMain>(s, Services{*box_service, dialogs, opener, settings, printer, clock},
+                                           folder.Path());
         QObject::connect(window.get(), &frmMain::Calculated, window.get(), [this] { ++passes; });
         window->Load();
         ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
@@ -214,6 +215,15 @@ protected:
         ASSERT_TRUE(action.isEnabled()) << name;
         action.trigger();
         Settle();
+        Be_active();
+    }
+    // A window manager activates the window that is left when another closes; the offscreen platform does not.
+    void Be_active() {
+        if (!window->isActiveWindow()) {
+            window->activateWindow();
+            ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+            Settle();
+        }
     }
     // Acts in the next modal window; closes it afterwards where the action left it open.
     static void In_dialog(const std::function<void(QWidget& dialog)>& act) {
@@ -243,6 +253,7 @@ protected:
     TemporaryFolder folder; // of the program
     TemporaryFolder work;   // the current directory
     RecordingBoxes boxes;
+    BoxService* box_service{&boxes};
     ScriptedDialogs dialogs;
     RecordingOpener opener;
     MemorySettingsStore settings;

@@ -146,7 +146,7 @@ constexpr std::array fraction{
     Piece{always, -0.1, 36.9,    "2", {}, Style::power},
     Piece{always, 0.0,  45.0,    "2", {}, Style::power},
 };
-constexpr double fraction_rows = 2.0;
+constexpr double fraction_rows = 1.8; // its two rows; a fifth of a row each goes to rope_rows
 constexpr double label_x = 2.0;
 constexpr double alpha_x = 8.0;
 constexpr double angle_x = 12.0;
@@ -190,6 +190,8 @@ constexpr std::array rope{
     Piece{always, 1.0,   2.0,    {" to 25% of the capacity calculated by the Johansen part) ",
                                   "beregnet etter Johansen del) "}},
 };
+
+constexpr double rope_rows = 0.4; // keeps the label of the first mode clear of the note
 
 // A failure mode of (8.6) or (8.7): the label, and lower by `offset` the value, against the middle of the equation.
 //
@@ -363,6 +365,7 @@ public:
             Print(beside_row);
         }
         Print(rope);
+        Down(rope_rows);
         for (const Mode& mode : modes) {
             Print(mode);
         }

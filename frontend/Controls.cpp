@@ -341,6 +341,9 @@ void PictureArea::paintEvent(QPaintEvent* /*event*/) {
     const QRectF room = QRectF{rect()}.adjusted(0.0, 0.0, -covered_, 0.0);
     painter.fillRect(rect(), Qt::white);
     Paint_picture(key_, painter, room, logicalDpiX() / 96.0);
+    if (!framed_) {
+        return;
+    }
     painter.setPen(border_colour);
     painter.setBrush(Qt::NoBrush);
     painter.drawRect(QRectF{rect()}.adjusted(0.5, 0.5, -0.5, -0.5));

@@ -144,6 +144,8 @@ public:
     [[nodiscard]] const std::string& Picture() const { return key_; }
     // What covers the right end of the area, in pixels: pictures stay left of it.
     void Set_covered(int pixels) { covered_ = pixels; }
+    // Without a frame the picture alone is seen, on white.
+    void Set_framed(bool framed) { framed_ = framed; }
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -151,6 +153,7 @@ protected:
 private:
     std::string key_;
     int covered_{};
+    bool framed_{true};
 };
 
 // An area of positioned texts in a scale of 100 by 100 with the origin at the lower left.

@@ -8,6 +8,7 @@
 #include <string>
 
 #include "frontend/Controls.h"
+#include "frontend/ExplanationForm.h"
 #include "frontend/Style.h"
 #include "frontend/frmMain.h"
 
@@ -51,7 +52,14 @@ Frm_tarn_vik_fak_klass::Frm_tarn_vik_fak_klass(frmMain& window) : QDialog(&windo
             }
         });
     }
-    button(load, "Cmd_lastvar", QStringLiteral("?"), "Explanation of the load-duration classes");
+    const auto on_help = [this](const QPushButton* from, const char* name) {
+        connect(from, &QAbstractButton::clicked, this, [this, name] {
+            ExplanationForm explanation{window_, *this, name};
+            explanation.exec();
+        });
+    };
+    on_help(button(load, "Cmd_lastvar", QStringLiteral("?"), "Explanation of the load-duration classes"),
+            "frm_tarn_vik_lastvarighet");
     for (int i = 0; i < service_classes; ++i) {
         connect(option(service, "Opt_klimaklasse", i, QString::number(i + 1)), &QAbstractButton::toggled, this,
                 [this, i](bool selected) {
@@ -61,7 +69,8 @@ Frm_tarn_vik_fak_klass::Frm_tarn_vik_fak_klass(frmMain& window) : QDialog(&windo
                     }
                 });
     }
-    button(service, "Cmd_klima", QStringLiteral("?"), "Explanation of the service classes");
+    on_help(button(service, "Cmd_klima", QStringLiteral("?"), "Explanation of the service classes"),
+            "frm_tarn_vik_klima");
     connect(button(this, "Cmd_ok", QStringLiteral("OK"), "OK"), &QAbstractButton::clicked, this, &QDialog::accept);
 }
 

@@ -22,9 +22,11 @@
 #include "data/SetupFile.h"
 #include "data/Startup.h"
 #include "data/Tables.h"
+#include "frontend/ExplanationForm.h"
 #include "frontend/Frm_tarn_vik_fak_klass.h"
 #include "frontend/Style.h"
 #include "frontend/frmAbout.h"
+#include "frontend/frmDetailed.h"
 #include "frontend/frmSetup.h"
 
 namespace tarnvik {
@@ -631,6 +633,19 @@ void frmMain::Connect_handlers() {
                 [this, i] { Cmd_boltetype(i); });
     }
     connect(&Find<QCheckBox>("Check_man"), &QCheckBox::toggled, this, &frmMain::Check_man_click);
+
+    connect(&Find<QAbstractButton>("Cmd_detail"), &QAbstractButton::clicked, this, [this] {
+        frmDetailed window{*this};
+        Show_modal(window);
+    });
+    const auto on_help = [this](const char* button, const char* name) {
+        connect(&Find<QAbstractButton>(button), &QAbstractButton::clicked, this, [this, name] {
+            ExplanationForm window{*this, *this, name};
+            Show_modal(window);
+        });
+    };
+    on_help("Cmd_Bolt_eff_bolt", "Frm_tarn_vik_effbolt");
+    on_help("Cmd_tverr", "Frm_tarn_vik_txt_tverr_brudd");
 
     for (const NumberBox& row : number_boxes) {
         Connect_box(row.name);

@@ -32,12 +32,12 @@ Frm_tarn_vik_fak_klass::Frm_tarn_vik_fak_klass(frmMain& window) : QDialog(&windo
     auto* service = new Frame{this};
     service->setObjectName(QStringLiteral("Fra_klimaklasse"));
 
-    const auto option = [this](Frame* parent, const char* name, int index, const QString& caption) {
+    const auto option = [](Frame* parent, const char* name, int index, const QString& caption) {
         auto* made = new Option{caption, parent};
         made->setObjectName(Indexed(name, index));
         return made;
     };
-    const auto button = [this](QWidget* parent, const char* name, const QString& caption, const char* accessible) {
+    const auto button = [](QWidget* parent, const char* name, const QString& caption, const char* accessible) {
         auto* made = new QPushButton{caption, parent};
         made->setObjectName(QLatin1String(name));
         made->setAutoDefault(false);

@@ -155,13 +155,26 @@ TEST(Check, the_tables_of_distances_and_the_picture_keys_on_request) {
     }
 }
 
-TEST(Check, pictures_need_the_build_with_the_window) {
+TEST(Check, pictures_and_the_report_need_the_build_with_the_window) {
     const TemporaryFolder folder;
-    const ToolRun run = Tool({"--pictures", folder.Path().string()});
-    EXPECT_EQ(run.status, exit_usage);
-    EXPECT_EQ(run.out, "");
-    EXPECT_NE(run.err.find("--pictures"), std::string::npos);
+    for (const char* option : {"--pictures", "--report"}) {
+        const ToolRun run = Tool({option, (folder / "a").string()});
+        EXPECT_EQ(run.status, exit_usage);
+        EXPECT_EQ(run.out, "");
+        EXPECT_EQ(run.err, "tarnvik-check: " + std::string{option} + " needs the build with the window\n");
+    }
     EXPECT_EQ(folder.Files(), 0U);
+}
+
+TEST(Check, report_details_and_explanations_on_request) {
+    const Json json = Tool({"--with", "report,detail,explanations"}).Object();
+    EXPECT_EQ(Names(json), (std::vector<std::string>{"end", "messages", "state", "report", "detail", "explanations"}));
+    EXPECT_EQ(json["report"].back().dump(), R"({"page":2,"op":"EndDoc"})");
+    EXPECT_FALSE(json["detail"].empty());
+    EXPECT_FALSE(json["explanations"].empty());
+    EXPECT_EQ(json["state"]["Lastvar_txt"], "Permanent action    "); // the print, which cuts it, comes after the state
+    // Without a pass that came to its end there is nothing to explain in detail.
+    EXPECT_EQ(Tool({"--with", "detail", "--set", "Mat_index=101"}).Object()["detail"].size(), 0U);
 }
 
 TEST(Check, nothing_is_printed_that_rests_on_a_refused_input) {

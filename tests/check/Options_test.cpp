@@ -71,6 +71,9 @@ TEST(Options, wrong_usage_names_what_was_wrong_and_what_was_expected) {
     const Row rows[] = {
         {"unknown option",      {"--jsn"},                        {"--jsn", "--help"}},
         {"no pictures folder",  {"--pictures"},                   {"--pictures", "expected a folder"}},
+        {"no report file",      {"--report"},                     {"--report", "expected a file"}},
+        {"report of a batch",   {"--batch", "--report", "f"},     {"--report", "expected one project, or none"}},
+        {"report of two",       {"--report", "f", "a", "b"},      {"--report", "expected one project, or none"}},
         {"short option",        {"-j"},                           {"-j"}},
         {"no folder",           {"--data"},                       {"--data", "expected a folder"}},
         {"no language",         {"--lang"},                       {"--lang", "expected Eng or Nor"}},

@@ -9,9 +9,15 @@
 #include <memory>
 #include <streambuf>
 #include <string_view>
+#include <utility>
+#include <vector>
 
 #include "calc/GlobalParameter.h"
+#include "calc/RuntimeFault.h"
+#include "calc/Screen.h"
 #include "data/Startup.h"
+#include "report/PrintReport.h"
+#include "report/Recorder.h"
 
 namespace tarnvik::fuzz {
 
@@ -71,6 +77,18 @@ inline const ConnectionState& New_project() {
         return s;
     }();
     return *state;
+}
+
+// The print of a state, as the headless tool records it.
+inline std::vector<PrintCall> Print_on_recorder(ConnectionState& s, const Screen& screen) {
+    static SpacingTexts texts;
+    Recorder recorder;
+    try {
+        PrintReport(recorder, s, {screen.Pic_forbindelse, screen.Pic_av_bolter}, {"21.11.2026", "12:00:00"}, texts);
+    } catch (const RuntimeFault& fault) {
+        FUZZ_CHECK(fault.number == fault_subscript);
+    }
+    return std::move(recorder.calls);
 }
 
 } // namespace tarnvik::fuzz

@@ -36,6 +36,14 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
                 FUZZ_CHECK(!value.is_null());
             }
             FUZZ_CHECK(!Summary({}, *s, result, box).empty());
+            if (size % 16 == 0) { // a report is long
+                options.with = {"tables", "pictures", "detail", "explanations", "report"};
+                json.clear();
+                Append_result(json, options, {}, *s, screen, result, box,
+                              [&] { return fuzz::Print_on_recorder(*s, screen); });
+                FUZZ_CHECK(Json::accept(json));
+                options.with = {"screen"};
+            }
         }
     } catch (const UsageError& error) {
         FUZZ_CHECK(!error.text.empty());

@@ -163,7 +163,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     options.fields = {"Mat", "Prof", "Setup"};
     if (size % 16 == 0) { // the tables are long, and the same code writes every row
         json.clear();
-        Append_result(json, options, {}, *s, screen, result, box);
+        options.with = {"tables", "pictures", "detail", "explanations", "report"};
+        Append_result(json, options, {}, *s, screen, result, box, [&] { return fuzz::Print_on_recorder(*s, screen); });
         FUZZ_CHECK(nlohmann::json::accept(json));
     }
     FUZZ_CHECK(!Summary("project", *s, result, box).empty());

@@ -18,8 +18,8 @@ inline constexpr int exit_stopped = 3; // a pass was stopped or faulted
 
 class Rendering;
 
-// Runs the tool. `program_folder` is where the data files lie unless --data names another folder. `rendering` paints what
-// is asked for as pictures; null in a build without the front end.
+// Runs the tool. `program_folder` is where the data files lie unless --data names another folder. `rendering` paints
+// what is asked for as pictures; null in a build without the front end.
 int Run_check(const std::vector<std::string>& arguments, const std::filesystem::path& program_folder, std::istream& in,
               std::ostream& out, std::ostream& err, Rendering* rendering = nullptr);
 

@@ -3,6 +3,7 @@
 #include <initializer_list>
 #include <string>
 
+#include "report/Member_texts.h"
 #include "report/Sections.h"
 
 namespace tarnvik {
@@ -25,47 +26,33 @@ std::string Join(std::initializer_list<std::string_view> parts) {
     return text;
 }
 
-// Everything that hangs on Con_code.
-struct CodeTexts {
+// The angle's words, and where its value stands, by Con_code.
+struct AngleText {
     std::string_view Con_code;
-    Words angle;
-    double angle_value_x;
-    Words member_t1, member_t2; // labels of the embedment rows
-    Words note_t1, note_t2;     // behind the thicknesses
+    Words words;
+    double value_x;
 };
 
-// Blanks and misspellings belong to the texts; so does the English noun of the Norwegian "  (Enkel beam)".
 // clang-format off
 constexpr Words angle_chords{"Angle between top- and bottom chord, alpha =", "Vinkel mellom overgurt og undergurt, alpha ="};
 constexpr Words angle_beam  {"Angle between beam and column, alpha =",       "Vinkel mellom bjelke og søyle, alpha ="};
 
-constexpr Words single_top_chord   {"  (Single top chord)",    "  (Enkel overgurt)"};
-constexpr Words double_top_chord   {"  (Double top chord)",    "  (Dobbel overgurt)"};
-constexpr Words single_bottom_chord{"  (Single bottom chord)", "  (Enkel undergurt)"};
-constexpr Words double_bottom_chord{"  (Double bottom chord)", "  (Dobbel undergurt)"};
-constexpr Words single_column      {"  (Single column)",       "  (Enkel søyle)"};
-constexpr Words double_column      {"  (Double column)",       "  (Dobbel søyle)"};
-constexpr Words single_beam        {"  (Single beam)",         "  (Enkel bjelke)"};
-constexpr Words single_beam_mixed  {"  (Single beam)",         "  (Enkel beam)"};
-constexpr Words double_beam        {"  (Double beam)",         "  (Dobbel bjelke)"};
-
-constexpr std::array<CodeTexts, 15> code_texts{{
-    // code   angle         its value  row of t1                                  row of t2                                      note of t1           note of t2
-    {"1.1",   angle_chords, 60,        {"Top chord    :", "Overgurt     :"},      {"Bottom chord    :", "Undergurt     :"},      single_top_chord,    single_bottom_chord},
-    {"1.2",   angle_chords, 60,        {"Top chord    :", "Overgurt     :"},      {"Bottom chord    :", "Undergurt     :"},      double_top_chord,    single_bottom_chord},
-    {"1.3",   angle_chords, 60,        {"Bottom chord :", "Undergurt    :"},      {"Top chord :",       "Overgurt    :"},        double_bottom_chord, single_top_chord},
-    {"2.1",   angle_beam,   70,        {"Column :",       "Søyle   :"},           {"Beam  :",           "Bjelke  :"},            single_column,       single_beam},
-    {"2.2",   angle_beam,   70,        {"Beam :",         "Bjelke   :"},          {"Column  :",         "Søyle   :"},            double_beam,         single_column},
-    {"2.3",   angle_beam,   70,        {"Column :",       "Søyle   :"},           {"Beam  :",           "Bjelke  :"},            double_column,       single_beam_mixed},
-    {"3.1",   angle_chords, 65,        {"Bottom chord :", "Undergurt    :"},      {"Top chord :",       "Overgurt    :"},        single_bottom_chord, single_top_chord},
-    {"3.2",   angle_chords, 65,        {"Top chord :",    "Overgurt    :"},       {"Bottom chord :",    "Undergurt    :"},       double_top_chord,    single_bottom_chord},
-    {"3.3",   angle_chords, 65,        {"Bottom chord :", "Undergurt    :"},      {"Top chord :",       "Overgurt    :"},        double_bottom_chord, single_top_chord},
-    {"4.1",   angle_beam,   56,        {"Column :",       "Søyle   :"},           {"Beam  :",           "Bjelke  :"},            single_column,       single_beam},
-    {"4.2",   angle_beam,   56,        {"Beam :",         "Bjelke   :"},          {"Column  :",         "Søyle   :"},            double_beam,         single_column},
-    {"4.3",   angle_beam,   56,        {"Column :",       "Søyle   :"},           {"Beam  :",           "Bjelke  :"},            double_column,       single_beam_mixed},
-    {"5.1",   angle_beam,   56,        {"Column :",       "Søyle   :"},           {"Beam  :",           "Bjelke  :"},            single_column,       single_beam},
-    {"5.2",   angle_beam,   56,        {"Beam :",         "Bjelke   :"},          {"Column  :",         "Søyle   :"},            double_beam,         single_column},
-    {"5.3",   angle_beam,   56,        {"Column :",       "Søyle   :"},           {"Beam  :",           "Bjelke  :"},            double_column,       single_beam_mixed},
+constexpr std::array<AngleText, 15> angle_texts{{
+    {"1.1", angle_chords, 60},
+    {"1.2", angle_chords, 60},
+    {"1.3", angle_chords, 60},
+    {"2.1", angle_beam,   70},
+    {"2.2", angle_beam,   70},
+    {"2.3", angle_beam,   70},
+    {"3.1", angle_chords, 65},
+    {"3.2", angle_chords, 65},
+    {"3.3", angle_chords, 65},
+    {"4.1", angle_beam,   56},
+    {"4.2", angle_beam,   56},
+    {"4.3", angle_beam,   56},
+    {"5.1", angle_beam,   56},
+    {"5.2", angle_beam,   56},
+    {"5.3", angle_beam,   56},
 }};
 
 struct ModeRow {
@@ -118,8 +105,8 @@ bool Double_shear(const ConnectionValues& s) {
     return s.dob_1 || s.dob_2;
 }
 
-const CodeTexts* Texts_of(const ConnectionValues& s) {
-    for (const CodeTexts& row : code_texts) {
+const AngleText* Angle_of(const ConnectionValues& s) {
+    for (const AngleText& row : angle_texts) {
         if (s.Con_code == row.Con_code) {
             return &row;
         }
@@ -151,46 +138,28 @@ void PrintFhk(PrintTarget& target, double y, double x, float value, int member) 
 
 void PrintEmbedment(PrintTarget& target, const ConnectionValues& s, double y1, double y2, double x) {
     const bool eng = Is_english(s);
-    const CodeTexts* texts = Texts_of(s);
-    const auto row = [&](double y, const Words& label, float alp, float value, int member) {
+    const MemberTexts* texts = Member_labels(s);
+    const auto row = [&](double y, const MemberText& label, float alp, float value, int member) {
         if (texts != nullptr) {
-            Print_at(target, x, y, In(eng, label));
+            Print_at(target, x, y, label.In(eng));
         }
         Print_at(target, x + 15, y, " alpha =");
         Print_at(target, x + 27, y, Format(alp, "0.0"));
         PrintFhk(target, y, x + 37, value, member);
     };
-    row(y1, texts != nullptr ? texts->member_t1 : Words{}, s.alp1, s.fh1k, 1);
-    row(y2, texts != nullptr ? texts->member_t2 : Words{}, s.alp2, s.fh2k, 2);
-}
-
-// Con_type chooses the group of codes that is tried: 1, then 2, 4 and 5 together, then 3. A code outside the group
-// prints nothing.
-bool Code_in_group_of_type(const ConnectionValues& s) {
-    const char digit = s.Con_code.View().front();
-    switch (s.Con_type) {
-    case 1:
-        return digit == '1';
-    case 2:
-    case 4:
-    case 5:
-        return digit == '2' || digit == '4' || digit == '5';
-    case 3:
-        return digit == '3';
-    default:
-        return false;
-    }
+    row(y1, texts != nullptr ? texts->label1 : MemberText{}, s.alp1, s.fh1k, 1);
+    row(y2, texts != nullptr ? texts->label2 : MemberText{}, s.alp2, s.fh2k, 2);
 }
 
 void PrintBeta(PrintTarget& target, const ConnectionValues& s, double y, double x) {
-    const CodeTexts* texts = Texts_of(s);
-    if (texts == nullptr || !Code_in_group_of_type(s)) {
+    const MemberTexts* texts = Member_notes(s);
+    if (texts == nullptr) {
         return;
     }
     const bool eng = Is_english(s);
     Print_at(target, x, y, Join({"Beta :  fh2k / fh1k = ", Format(s.beta, "0.00 ")}));
-    Print_at(target, x, y - 5, Join({s.t1_txt, Format(s.t1, "0.00"), In(eng, texts->note_t1)}));
-    Print_at(target, x, y - 10, Join({s.t2_txt, Format(s.t2, "0.00"), In(eng, texts->note_t2)}));
+    Print_at(target, x, y - 5, Join({s.t1_txt, Format(s.t1, "0.00"), texts->note1.In(eng)}));
+    Print_at(target, x, y - 10, Join({s.t2_txt, Format(s.t2, "0.00"), texts->note2.In(eng)}));
 }
 
 // The equation stands as a picture between label and equals sign.
@@ -324,9 +293,9 @@ void PrintCapacity(PrintTarget& target, const ConnectionValues& s, double X, dou
              Join({" 0.082", " x  ( ", "1 - ", "0.01  x ", d, ")", " x ", Format(s.rho_k, "00"), " = "}));
     Print_at(target, X + 95, Y - 15, Format(s.fh0k, "0.00"));
 
-    if (const CodeTexts* texts = Texts_of(s)) {
-        Print_at(target, X, Y - 20, In(eng, texts->angle));
-        Print_at(target, X + texts->angle_value_x, Y - 20, Format(s.alp, "0.0"));
+    if (const AngleText* angle = Angle_of(s)) {
+        Print_at(target, X, Y - 20, In(eng, angle->words));
+        Print_at(target, X + angle->value_x, Y - 20, Format(s.alp, "0.0"));
     }
     PrintEmbedment(target, s, Y - 27, Y - 37, X);
     PrintBeta(target, s, Y - 46, X);

@@ -12,8 +12,6 @@ namespace tarnvik {
 class PrintTarget {
 public:
     PrintTarget() = default;
-    PrintTarget(const PrintTarget&) = delete;
-    PrintTarget& operator=(const PrintTarget&) = delete;
     virtual ~PrintTarget() = default;
 
     // The printable area in report units. A negative height makes y run upward.
@@ -52,6 +50,10 @@ public:
 
     // Ends the print job and sends it out; a second one has no effect.
     virtual void EndDoc() = 0;
+
+protected:
+    PrintTarget(const PrintTarget&) = default;
+    PrintTarget& operator=(const PrintTarget&) = default;
 };
 
 } // namespace tarnvik

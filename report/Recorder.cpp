@@ -127,6 +127,8 @@ std::string Line_of(const PrintCall& call) {
         for (const float value : {call.x, call.y, call.x2, call.y2}) {
             Append(line, value);
         }
+        line += " width";
+        Append(line, call.width);
         break;
     case Op::PaintPicture:
         Append_text(line, call.text);

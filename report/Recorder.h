@@ -55,7 +55,7 @@ std::string_view Op_name(PrintCall::Op op);
 // The call as a line, the number of its page first:
 //
 //     1 CurrentX 16
-//     1 Line 15 290 185 290
+//     1 Line 15 290 185 290 width 6
 //     2 PaintPicture "Frm_tarn_vik_bolter_1_trykk/Pic1_2_b" 10 255 65 -67.6
 //     1 TextWidth "Date:" 5.9 in arial 7
 //     1 Print "General data" at 15 268 in Times New Roman 9 bold italic

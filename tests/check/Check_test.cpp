@@ -173,6 +173,14 @@ TEST(Check, report_details_and_explanations_on_request) {
     EXPECT_FALSE(json["detail"].empty());
     EXPECT_FALSE(json["explanations"].empty());
     EXPECT_EQ(json["state"]["Lastvar_txt"], "Permanent action    "); // the print, which cuts it, comes after the state
+    // Texts first, then the equations.
+    EXPECT_EQ(json["detail"].front().dump(), R"({"x":2,"y":98,"text":"Single shear :","font":"Tahoma","bold":true,)"
+                                             R"("small":false,"right":false,"fore":0})");
+    EXPECT_EQ(Names(json["detail"].back()), (std::vector<std::string>{"x", "y", "w", "h", "picture"}));
+    EXPECT_EQ(json["detail"].back()["picture"], "frmDetailed/Pic_r_f");
+    EXPECT_EQ(json["explanations"].size(), 5U);
+    EXPECT_EQ(json["explanations"]["Frm_tarn_vik_effbolt"]["caption"], "Number of effective bolts");
+    EXPECT_EQ(json["explanations"]["Frm_tarn_vik_effbolt"]["painting"][0]["text"], "Effective number of bolts:");
     // Without a pass that came to its end there is nothing to explain in detail.
     EXPECT_EQ(Tool({"--with", "detail", "--set", "Mat_index=101"}).Object()["detail"].size(), 0U);
 }

@@ -1,6 +1,7 @@
 #include "frontend/PictureStore.h"
 
 #include <QFontMetricsF>
+#include <QPaintEngine>
 #include <QPainter>
 #include <QPainterPath>
 
@@ -65,6 +66,9 @@ constexpr double equation_letter = 12.0;
 
 void Paint(QPainter& painter, const Drawing& drawing) {
     painter.setRenderHint(QPainter::Antialiasing);
+    // A PDF file strokes what is opaque by itself; what shines through would go into it as an outline many times longer.
+    const bool pdf = painter.paintEngine()->type() == QPaintEngine::Pdf;
+    const int rim_opacity = pdf ? 255 : 170;
     QFont font = Text_font();
     font.setPixelSize(letter_pixels);
     for (const auto& shape : drawing.shapes) {
@@ -93,7 +97,7 @@ void Paint(QPainter& painter, const Drawing& drawing) {
             // A light rim keeps the letters apart from the edges that they stand on.
             QPainterPath letters;
             letters.addText(at, font, words);
-            painter.strokePath(letters, QPen{QColor{255, 255, 255, 170}, 2.4});
+            painter.strokePath(letters, QPen{QColor{255, 255, 255, rim_opacity}, 2.4});
             painter.setFont(font);
             painter.setPen(Qt::black);
             painter.drawText(at, words);

@@ -41,6 +41,23 @@ void Keep_message(QtMsgType type, const QMessageLogContext& /*context*/, const Q
     }
 }
 
+// One screen that the window fits on, of the resolution that QT_FONT_DPI names: the offscreen platform does not heed
+// that variable by itself.
+bool Use_screen(const QTemporaryDir& home) {
+    const int dpi = qEnvironmentVariableIsSet("QT_FONT_DPI") ? qEnvironmentVariableIntValue("QT_FONT_DPI") : 96;
+    const QString path = home.filePath(QStringLiteral("screen.json"));
+    QFile file{path};
+    if (!file.open(QIODevice::WriteOnly)) {
+        return false;
+    }
+    file.write(QStringLiteral(R"({"screens": [{"name": "test", "x": 0, "y": 0, "width": 3840, "height": 2160,
+                               "logicalDpi": %1, "logicalBaseDpi": %1, "dpr": 1}]})")
+                   .arg(dpi)
+                   .toUtf8());
+    qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + QFile::encodeName(path));
+    return true;
+}
+
 class NoWarnings : public testing::EmptyTestEventListener {
     void OnTestStart(const testing::TestInfo& /*info*/) override { tarnvik::test::Warnings().clear(); }
     void OnTestEnd(const testing::TestInfo& /*info*/) override {
@@ -53,7 +70,6 @@ class NoWarnings : public testing::EmptyTestEventListener {
 } // namespace
 
 int main(int argc, char** argv) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("LANG", "C.UTF-8");
     qputenv("LC_ALL", "C.UTF-8");
     qunsetenv("QT_SCALE_FACTOR");
@@ -66,6 +82,9 @@ int main(int argc, char** argv) {
     qputenv("HOME", path);
     for (const char* name : {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME", "XDG_RUNTIME_DIR"}) {
         qputenv(name, path);
+    }
+    if (!Use_screen(home)) {
+        return 1;
     }
     qInstallMessageHandler(Keep_message);
     testing::InitGoogleTest(&argc, argv);

@@ -83,7 +83,7 @@ SetText Set_text(const QString& text, const QFont& font, const QSizeF& room) {
     set.width = Widest(set.lines, metrics);
     if (set.width > room.width()) {
         const QStringList broken = Break(text, metrics, room.width());
-        if (broken.size() > 1 && least_height * static_cast<double>(broken.size()) <= room.height() + 0.5) {
+        if (broken.size() > 1 && least_height * static_cast<double>(broken.size()) <= room.height() + 1.0) {
             set.lines = broken;
             set.width = Widest(broken, metrics);
             set.line_height = std::min(metrics.height(), room.height() / static_cast<double>(broken.size()));
@@ -128,8 +128,9 @@ void Draw_text(QPainter& painter, const QString& text, const QFont& font, const 
 
 QRectF Frame::Title_room() const {
     const QFontMetricsF metrics{font()};
-    const double left = Scaled(6, logicalDpiX());
-    return {left, 0.0, width() - 2.0 * left, metrics.height()};
+    const double left = Scaled(5, logicalDpiX());
+    const double right = Scaled(3, logicalDpiX());
+    return {left, 0.0, width() - left - right, metrics.height()};
 }
 
 void Frame::paintEvent(QPaintEvent* /*event*/) {

@@ -62,8 +62,8 @@ constexpr std::array control_rows{
     ControlRow{"Opt_bolt_bulldog(1)",     option,         "Fra_valg_bolt_bulldog",  "",            6, 40, 0, 30, ""},
     ControlRow{"Fra_bolter",              frame,          "fra_input",              "",            0, 0, 0, 0, ""},
     ControlRow{"Comb_bolter",             list,           "Fra_bolter",             "",            8, 17, 107, list_height, ""},
-    ControlRow{"Lbl_ant_bolt",            label,          "Fra_bolter",             "",            5, 48, 76, line, ""},
-    ControlRow{"Comb_ant_bolt",           list,           "Fra_bolter",             "",            82, 46, 38, list_height, ""},
+    ControlRow{"Lbl_ant_bolt",            label,          "Fra_bolter",             "",            4, 48, 79, line, ""},
+    ControlRow{"Comb_ant_bolt",           list,           "Fra_bolter",             "",            84, 46, 37, list_height, ""},
     ControlRow{"Fra_bulldog",             frame,          "fra_input",              "",            0, 0, 0, 0, ""},
     ControlRow{"Comb_bulldog",            list,           "Fra_bulldog",            "",            0, 0, 0, list_height, ""},
     ControlRow{"Lbl_bulldog1",            label,          "Fra_bulldog",            "",            0, 0, 148, 28, ""},
@@ -155,7 +155,7 @@ constexpr std::array control_rows{
     ControlRow{"Lbl_Rd_kontroll",         label,          "Fra_bolt_kap",           "",            0, 0, 29, line, ""},
     ControlRow{"Lbl_pluss",               label,          "Fra_bolt_kap",           "+",           0, 0, 9, line, ""},
     ControlRow{"Lbl_Rd_bulldog_kontroll", label,          "Fra_bolt_kap",           "",            0, 0, 29, line, ""},
-    ControlRow{"Lbl_lik",                 label,          "Fra_bolt_kap",           ") = ",        0, 0, 14, line, ""},
+    ControlRow{"Lbl_lik",                 label,          "Fra_bolt_kap",           ") = ",        0, 0, 15, line, ""},
     ControlRow{"Lbl_uf",                  label,          "Fra_bolt_kap",           "",            0, 0, 40, line, ""},
     ControlRow{"Cmd_detail",              button,         "Fra_bolt_kap",           "",            0, 0, 0, 0, ""},
     ControlRow{"Fra_tverr_brudd",         frame,          "Fra_bolt_kap",           "",            0, 0, 0, 0, ""},
@@ -424,7 +424,11 @@ void frmMain::Apply_geometry() {
     const double dpi_x = logicalDpiX();
     const double dpi_y = logicalDpiY();
     // Edges are rounded where they lie in the window, not where they lie in the parent: neighbours keep their distance.
+    // The lower ones are rounded down, so that neighbours whose rules let them touch do not overlap; the right ones
+    // stay inside the frame.
     std::map<std::string_view, QPointF> origins;
+    std::map<std::string_view, QPoint> ends;
+    const int border = Scaled(2, dpi_x);
     for (const ControlRow& row : control_rows) {
         const Box& box = boxes_.find(row.name)->second;
         const QPointF parent = *row.parent == '\0' ? QPointF{} : origins[row.parent];
@@ -435,7 +439,11 @@ void frmMain::Apply_geometry() {
         origins[row.name] = QPointF{left, top};
         const QPoint corner{static_cast<int>(std::lround(parent.x())), static_cast<int>(std::lround(parent.y()))};
         const QPoint from{static_cast<int>(std::lround(left)), static_cast<int>(std::lround(top))};
-        const QPoint to{static_cast<int>(std::lround(right)), static_cast<int>(std::lround(bottom))};
+        QPoint to{static_cast<int>(std::lround(right)), static_cast<int>(std::floor(bottom + 0.001))};
+        if (const auto end = ends.find(row.parent); end != ends.end()) {
+            to.setX(std::min(to.x(), end->second.x() - border));
+        }
+        ends[row.name] = to;
         Find<QWidget>(row.name).setGeometry(QRect{from - corner, QSize{to.x() - from.x(), to.y() - from.y()}});
     }
     const int covered = Scaled(400.0 / twips_per_pixel, dpi_x);

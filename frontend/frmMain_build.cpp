@@ -106,7 +106,7 @@ constexpr std::array control_rows{
     ControlRow{"Lbl_lastvar_2",           label,          "Fra_klasse",             "",            0, 0, 0, line, ""},
     ControlRow{"Lbl_klima_1",             label,          "Fra_klasse",             "",            0, 0, 0, line, ""},
     ControlRow{"Lbl_klima_2",             label,          "Fra_klasse",             "",            0, 0, 14, line, ""},
-    ControlRow{"Lbl_kmod1",               label,          "Fra_klasse",             "kmod =",      0, 0, 0, line, ""},
+    ControlRow{"Lbl_kmod1",               label,          "Fra_klasse",             "kmod =",      0, 0, 39, line, ""},
     ControlRow{"Lbl_kmod2",               label,          "Fra_klasse",             "",            0, 0, 36, line, ""},
 
     ControlRow{"Fra_type",                frame,          "fra_input",              "",            0, 0, 0, 0, ""},
@@ -149,7 +149,7 @@ constexpr std::array control_rows{
     ControlRow{"Lbl_bolt_kap2",           label,          "Fra_bolt_kap",           "",            0, 0, 40, line, ""},
     ControlRow{"Lbl_bulldog_kap1",        label,          "Fra_bolt_kap",           "",            0, 0, 180, line, ""},
     ControlRow{"Lbl_bulldog_kap2",        label,          "Fra_bolt_kap",           "",            0, 0, 40, line, ""},
-    ControlRow{"Lbl_bolt_kontroll",       label,          "Fra_bolt_kap",           "",            0, 0, 48, line, ""},
+    ControlRow{"Lbl_bolt_kontroll",       label,          "Fra_bolt_kap",           "",            0, 0, 51, line, ""},
     ControlRow{"Lbl_last_kontroll",       label,          "Fra_bolt_kap",           "",            0, 0, 29, line, ""},
     ControlRow{"Lbl_strek",               label,          "Fra_bolt_kap",           "/ (",         0, 0, 11, line, ""},
     ControlRow{"Lbl_Rd_kontroll",         label,          "Fra_bolt_kap",           "",            0, 0, 29, line, ""},
@@ -383,12 +383,13 @@ void frmMain::Set_tab_order() {
 void frmMain::Natural_sizes() {
     const QFontMetricsF metrics{font()};
     const double to_twips = twips_per_inch / logicalDpiX();
+    constexpr double gap = 5.0 * twips_per_pixel; // before the value that follows
     const auto widen = [&](std::string_view control, const char* caption) {
         const auto box = boxes_.find(control);
         if (caption == nullptr || box == boxes_.end()) {
             return;
         }
-        const double width = (metrics.horizontalAdvance(Q(caption)) + 2.0) * to_twips;
+        const double width = metrics.horizontalAdvance(Q(caption)) * to_twips + gap;
         box->second.width = std::max(box->second.width, width);
     };
     std::map<std::string_view, bool> measured;

@@ -48,8 +48,9 @@ void ExplanationForm::Lay_out() {
     const double dpi = logicalDpiX();
     setFixedSize(static_cast<int>(std::lround(explanation_.width * window_.width())),
                  static_cast<int>(std::lround(explanation_.height * window_.height())));
-    move(window_.frameGeometry().left() + (window_.width() - width()) / 2,
-         window_.frameGeometry().top() + (window_.height() - height()) / 2);
+    // Inside to inside: the frame that the window manager will draw is not known yet, and it is the same for both.
+    setGeometry(window_.geometry().left() + (window_.width() - width()) / 2,
+                window_.geometry().top() + (window_.height() - height()) / 2, width(), height());
 
     const QRect outer =
         QRectF{0.015 * width(), 0.01 * height(), 0.96 * width(), explanation_.frame_height * height()}.toRect();

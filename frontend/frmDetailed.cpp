@@ -42,7 +42,9 @@ frmDetailed::frmDetailed(frmMain& window) : QDialog(&window), window_(window) {
 void frmDetailed::Lay_out() {
     const double dpi = logicalDpiX();
     setFixedSize(static_cast<int>(std::lround(0.65 * window_.width())), window_.height());
-    move(window_.frameGeometry().left() + (window_.width() - width()) / 2, window_.frameGeometry().top());
+    // Inside to inside: the frame that the window manager will draw is not known yet, and it is the same for both.
+    setGeometry(window_.geometry().left() + (window_.width() - width()) / 2, window_.geometry().top(), width(),
+                height());
 
     auto* frame = findChild<Frame*>(QStringLiteral("Fra_detailed"));
     const double w = width();

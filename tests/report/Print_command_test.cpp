@@ -1,0 +1,159 @@
+// The print command of the window: the dialog, the job, and every way in which it can fail.
+#include <QComboBox>
+#include <QPrintDialog>
+#include <QPushButton>
+
+#include "frontend/QtServices.h"
+#include "report/PrintReport.h"
+#include "tests/frontend/Window.h"
+#include "tests/report/Support.h"
+
+namespace tarnvik::test {
+namespace {
+
+class PrintCommand : public WindowTest {
+protected:
+    using Reply = ScriptedPrinter::Answer;
+    void Start_and_watch(std::string_view lang = "Eng") {
+        Start(lang);
+        QObject::connect(window.get(), &frmMain::Unloaded, window.get(), [this] { ++unloaded; });
+    }
+    // The text behind "File:" of the last job.
+    std::string File_printed() { return Text_at(*printer.jobs.back(), 23.0F, 274.3F).value_or("(none)"); }
+
+    int unloaded{};
+};
+
+TEST_F(PrintCommand, prints_the_report_of_the_state_and_ends_the_job_twice) {
+    Start_and_watch();
+    Menu("mnuprint");
+    ASSERT_EQ(printer.asked.size(), 1U);
+    EXPECT_EQ(printer.asked[0].flags, 1048580);
+    ASSERT_EQ(printer.jobs.size(), 1U);
+    Recorder expected;
+    SpacingTexts texts;
+    PrintReport(expected, s, {window->Shown().Pic_forbindelse, window->Shown().Pic_av_bolter}, clock.Now(), texts);
+    expected.EndDoc();
+    EXPECT_EQ(printer.jobs[0]->Lines(), expected.Lines());
+    EXPECT_TRUE(boxes.messages.empty());
+    EXPECT_EQ(unloaded, 0);
+    EXPECT_TRUE(window->isVisible());
+}
+
+TEST_F(PrintCommand, no_pass_runs_for_it) {
+    Start_and_watch();
+    Menu("mnuprint");
+    EXPECT_EQ(passes, 0);
+    EXPECT_EQ(s.Lastvar_txt, "Permanent");
+    EXPECT_EQ(s.Lastvar_txt.View().size(), 20U);
+}
+
+// Cancel and every failure: the same words in both languages, and then the window closes.
+class PrintFailure : public PrintCommand,
+                     public testing::WithParamInterface<std::tuple<ScriptedPrinter::Answer, const char*>> {};
+
+TEST_P(PrintFailure, is_told_as_a_cancelled_dialog_and_closes_the_window) {
+    Start_and_watch(std::get<1>(GetParam()));
+    printer.answer = std::get<0>(GetParam());
+    Menu("mnuprint");
+    EXPECT_EQ(boxes.messages, (Messages{{"User pressed the Cancel button", 48}}));
+    EXPECT_EQ(unloaded, 0) << "before the answer";
+    EXPECT_TRUE(window->isVisible());
+    Answer();
+    EXPECT_EQ(unloaded, 1);
+    EXPECT_FALSE(window->isVisible());
+    for (const auto& job : printer.jobs) {
+        for (const std::string& line : job->Lines()) {
+            if (printer.answer == Reply::fails_at_print) {
+                EXPECT_FALSE(line.ends_with("EndDoc")) << "a document begun is not ended";
+            }
+        }
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    All, PrintFailure,
+    testing::Combine(testing::Values(ScriptedPrinter::Answer::cancelled, ScriptedPrinter::Answer::no_printer,
+                                     ScriptedPrinter::Answer::fails_at_print, ScriptedPrinter::Answer::fails_at_end),
+                     testing::Values("Eng", "Nor")));
+
+TEST_F(PrintCommand, the_file_is_named_once_a_project_has_been_opened_or_saved) {
+    Start_and_watch();
+    Menu("mnuprint");
+    EXPECT_EQ(Caption(), "Tarnvik: New File");
+    EXPECT_EQ(File_printed(), "");
+    dialogs.answer = (work / "truss.tnvik").string();
+    Menu("mnuFileItem(3)");
+    Menu("mnuprint");
+    EXPECT_EQ(File_printed(), (work / "truss.tnvik").string());
+}
+
+TEST_F(PrintCommand, a_new_project_that_is_saved_has_its_title_as_its_file) {
+    Start_and_watch();
+    Menu("mnuFileItem(2)");
+    Menu("mnuprint");
+    EXPECT_EQ(File_printed(), "New File");
+}
+
+TEST_F(PrintCommand, a_cancelled_save_names_no_file) {
+    Start_and_watch();
+    dialogs.answer.reset();
+    Menu("mnuFileItem(3)");
+    boxes.Answer();
+    Menu("mnuprint");
+    EXPECT_EQ(File_printed(), "");
+}
+
+TEST_F(PrintCommand, texts_of_the_spacing_tables_outlive_a_print) {
+    Start_and_watch();
+    s.Ant_index = 4; // six bolts
+    window->Recalculate();
+    Menu("mnuprint");
+    const std::string b5 = "b5  = " + std::string{s.Sb5_txt};
+    s.Ant_index = 2; // three, arrangement b
+    window->Recalculate();
+    Menu("mnuprint");
+    ASSERT_EQ(s.Case_code, "1.3.b");
+    EXPECT_EQ(Text_at(*printer.jobs[1], 95.0F, 262.0F - 4.0F * 17.0F, 2), b5);
+}
+
+// The toolkit's own dialog.
+class PrinterDialog : public WindowTest {
+protected:
+    QtPrinterService service;
+};
+
+TEST_F(PrinterDialog, offers_pdf_and_writes_it) {
+    Start();
+    const std::filesystem::path file = work / "from the dialog.pdf";
+    In_dialog([&](QWidget& dialog) {
+        EXPECT_EQ(dialog.objectName(), QStringLiteral("PrinterDialog"));
+        auto& names = Find_in<QComboBox>(dialog, "printers");
+        const int pdf = names.findText(QStringLiteral("Print to File (PDF)"));
+        ASSERT_GE(pdf, 0);
+        names.setCurrentIndex(pdf);
+        Find_in<QLineEdit>(dialog, "filename").setText(QString::fromStdString(file.string()));
+        dynamic_cast<QDialog&>(dialog).accept();
+    });
+    const auto target = service.Show_printer({1048580, "Report"});
+    ASSERT_NE(target, nullptr);
+    SpacingTexts texts;
+    PrintReport(*target, s, {window->Shown().Pic_forbindelse, window->Shown().Pic_av_bolter}, clock.Now(), texts);
+    target->EndDoc();
+    EXPECT_TRUE(Read_file(file).starts_with("%PDF"));
+}
+
+TEST_F(PrinterDialog, cancelled_gives_no_job) {
+    Start();
+    In_dialog([&](QWidget& dialog) { dynamic_cast<QDialog&>(dialog).reject(); });
+    EXPECT_EQ(service.Show_printer({1048580, "Report"}), nullptr);
+}
+
+TEST(QtClock, time_has_eight_characters) {
+    const Moment now = QtClock{}.Now();
+    EXPECT_EQ(now.time.size(), 8U);
+    EXPECT_FALSE(now.date.empty());
+}
+
+} // namespace
+} // namespace tarnvik::test

@@ -9,8 +9,6 @@
 namespace tarnvik {
 namespace {
 
-using test::Fault_of;
-
 // Every named value is rounded to 24 bits, about 6e-8 of it; a hand value in double differs by a few of those.
 constexpr double hand = 5e-7;
 

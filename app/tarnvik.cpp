@@ -39,8 +39,9 @@ int main(int argc, char** argv) {
     tarnvik::QtPrinterService printer;
     tarnvik::QtClock clock;
     try {
-        tarnvik::frmMain window{
-            state, {boxes, files, opener, settings, printer, clock}, tarnvik::U(QCoreApplication::applicationDirPath())};
+        tarnvik::frmMain window{state,
+                                {boxes, files, opener, settings, printer, clock},
+                                tarnvik::U(QCoreApplication::applicationDirPath())};
         window.Load();
         return QApplication::exec();
     } catch (const tarnvik::DataFileError& error) {

@@ -66,7 +66,8 @@ constexpr double equation_letter = 12.0;
 
 void Paint(QPainter& painter, const Drawing& drawing) {
     painter.setRenderHint(QPainter::Antialiasing);
-    // A PDF file strokes what is opaque by itself; what shines through would go into it as an outline many times longer.
+    // A PDF file strokes what is opaque by itself; what shines through would go into it as an outline many times
+    // longer.
     const bool pdf = painter.paintEngine()->type() == QPaintEngine::Pdf;
     const int rim_opacity = pdf ? 255 : 170;
     QFont font = Text_font();

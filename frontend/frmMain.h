@@ -82,8 +82,8 @@ public:
     // The sign that a text box was refused and its message is still to be answered: other boxes wait.
     [[nodiscard]] bool Refusing() const { return !refused_.isNull(); }
 
-    // Message, then focus back to the box (unless `give_back` is false); the box stays green. The click or key that left
-    // the box does not act. Without a message it does, and the focus goes back afterwards.
+    // Message, then focus back to the box (unless `give_back` is false); the box stays green. The click or key that
+    // left the box does not act. Without a message it does, and the focus goes back afterwards.
     void Refuse(TextBox& box, std::string_view text, int style, bool give_back = true);
     // The common error step of the numeric boxes.
     void Input_error(TextBox& box, int number);

@@ -156,7 +156,8 @@ TEST_F(StartUp, AMissingMaterialOrProfileFileEndsTheStartWithItsNameAndFolder) {
     for (const char* file : {"TarnvikMaterial.csv", "TarnvikProfile.csv"}) {
         const std::string kept = Read_file(folder / file);
         std::filesystem::remove(folder / file);
-        window = std::make_unique<frmMain>(s, Services{boxes, dialogs, opener, settings, printer, clock}, folder.Path());
+        window =
+            std::make_unique<frmMain>(s, Services{boxes, dialogs, opener, settings, printer, clock}, folder.Path());
         try {
             window->Load();
             FAIL() << "started without " << file;

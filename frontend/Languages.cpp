@@ -2,6 +2,8 @@
 
 #include <array>
 
+#include "report/PrintReport.h"
+
 namespace tarnvik {
 
 namespace {
@@ -114,6 +116,13 @@ void Write(ConnectionValues& s, const SetCaption& set, bool english) {
     }
 }
 
+// The lines of the printed report.
+void Set_about(AboutTexts& about, bool english) {
+    const InfoLines& info = Info_lines(english);
+    about.title = info.Info_1;
+    about.version = info.Info_2;
+}
+
 } // namespace
 
 std::span<const CaptionRow> Caption_rows() {
@@ -130,14 +139,12 @@ const MemberRow* Member_names(int Con_type, bool english) {
 
 void English(ConnectionValues& s, AboutTexts& about, const SetCaption& set) {
     Write(s, set, true);
-    about.title = "Calculation of bolts according to Eurocode 5";
-    about.version = "Version  1.2.0";
+    Set_about(about, true);
 }
 
 void Norsk(ConnectionValues& s, AboutTexts& about, const SetCaption& set) {
     Write(s, set, false);
-    about.title = "Beregning av bolteforbindelser ifølge Eurocode 5";
-    about.version = "Versjon  1.2.0";
+    Set_about(about, false);
 }
 
 } // namespace tarnvik

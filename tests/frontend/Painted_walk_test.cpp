@@ -10,6 +10,7 @@
 #include <QPushButton>
 
 #include <algorithm>
+#include <cmath>
 #include <string>
 #include <vector>
 

@@ -27,8 +27,8 @@ constexpr double end_margin = 3.5;
 constexpr double millimetres_per_inch = 25.4;
 constexpr double points_per_inch = 72.0;
 
-// Of a PDF file: the frame's lines of 6 pixels are then 0.5 mm and those of a table 0.08 mm wide.
-constexpr int pdf_dots_per_inch = 300;
+// The device's pixels: the frame's lines of 6 are then 0.5 mm and those of a table 0.08 mm wide, on every device.
+constexpr int device_dots_per_inch = 300;
 
 // Texts are measured with letters of this size, whose widths are those of the font's own drawing.
 constexpr int measuring_pixels = 2048;
@@ -155,7 +155,7 @@ std::unique_ptr<PrintTarget> Pdf_target(const std::filesystem::path& file, const
     auto bytes = std::make_shared<QBuffer>();
     bytes->open(QIODevice::WriteOnly);
     auto writer = std::make_unique<QPdfWriter>(bytes.get());
-    writer->setResolution(pdf_dots_per_inch);
+    writer->setResolution(device_dots_per_inch);
     writer->setPageSize(layout ? layout->pageSize() : QPageSize{QPageSize::A4});
     writer->setPageOrientation(layout ? layout->orientation() : QPageLayout::Portrait);
     writer->setPageMargins({});
@@ -169,6 +169,7 @@ std::unique_ptr<PrintTarget> Pdf_target(const std::filesystem::path& file, const
 
 std::unique_ptr<PrintTarget> Printer_target(std::unique_ptr<QPrinter> printer) {
     printer->setFullPage(true);
+    printer->setResolution(device_dots_per_inch); // or the nearest that the printer has
     return std::make_unique<QtPrintTarget>(std::move(printer), [](QPagedPaintDevice& device) {
         if (dynamic_cast<QPrinter&>(device).printerState() == QPrinter::Error) {
             Raise(fault_path_access, "EndDoc");

@@ -5,6 +5,7 @@
 #include <QPainter>
 #include <QSvgGenerator>
 
+#include <cstdio>
 #include <fstream>
 
 #include "calc/RuntimeFault.h"
@@ -20,6 +21,13 @@ namespace {
 constexpr std::string_view where = "Write_pictures";
 constexpr double png_scale = 2.0; // pixels of the PNG for a pixel at 96 dpi
 
+// The toolkit's messages, but for the one that a session without a desktop always brings.
+void Pass_on(QtMsgType /*type*/, const QMessageLogContext& /*context*/, const QString& text) {
+    if (!text.startsWith(QLatin1String("QStandardPaths: XDG_RUNTIME_DIR not set"))) {
+        std::fprintf(stderr, "%s\n", qPrintable(text));
+    }
+}
+
 } // namespace
 
 QtRendering::QtRendering(int& argc, char** argv) : argc_(argc), argv_(argv) {}
@@ -31,6 +39,7 @@ void QtRendering::Start() {
         if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
             qputenv("QT_QPA_PLATFORM", "offscreen"); // no display is asked for
         }
+        qInstallMessageHandler(Pass_on);
         application_ = std::make_unique<QApplication>(argc_, argv_);
     }
 }

@@ -262,7 +262,7 @@ int Run_check(const std::vector<std::string>& arguments, const std::filesystem::
     } catch (const DataFileError& error) {
         err << "tarnvik-check: " << error.Text() << "\n";
     } catch (const RuntimeFault& fault) {
-        err << "tarnvik-check: the pictures cannot be written: " << fault.description << "\n";
+        err << "tarnvik-check: " << Fault_text(fault) << "\n";
     }
     return exit_usage;
 }

@@ -183,6 +183,60 @@ TEST_F(Boxes, WithoutALanguageNoMessageIsShown) {
     EXPECT_EQ(passes, 0);
 }
 
+// The click that leaves a box with a good value does both, once each: the value first.
+TEST_F(Boxes, TheClickThatLeavesAnAcceptedBoxActs) {
+    Start_free();
+    Type("Txt_last", "11");
+    passes = 0;
+    Click("Cmd_boltetype(0)");
+    EXPECT_EQ(s.P, 11.0F);
+    EXPECT_EQ(s.Bolt_ab, "a");
+    EXPECT_EQ(passes, 2);
+    Type("Txt_last", "12");
+    passes = 0;
+    Click("Opt_strekk");
+    EXPECT_EQ(s.P, -12.0F);
+    EXPECT_EQ(passes, 2);
+    Type("Txt_last", "13");
+    passes = 0;
+    Pick("cboMat", 6);
+    EXPECT_EQ(s.P, 13.0F);
+    EXPECT_EQ(s.Mat_index, 6);
+    EXPECT_EQ(passes, 2);
+    Type("Txt_last", "14");
+    passes = 0;
+    Click("Check_man");
+    EXPECT_EQ(s.P, 14.0F);
+    EXPECT_TRUE(s.Man_he_on);
+    EXPECT_EQ(passes, 1); // the check box starts none
+    Type("Txt_last", "15");
+    passes = 0;
+    Click("Txt_h1");
+    EXPECT_EQ(s.P, 15.0F);
+    EXPECT_EQ(passes, 1);
+    EXPECT_EQ(Back("Txt_h1"), green);
+    EXPECT_EQ(Box("Txt_h1").selectedText(), Box("Txt_h1").text());
+    EXPECT_TRUE(boxes.messages.empty());
+}
+
+TEST_F(Boxes, AMismatchIsToldInBothLanguagesAndNoOtherError) {
+    for (const char* lang : {"Eng", "Nor"}) {
+        Start(lang);
+        boxes.messages.clear();
+        window->Input_error(Box("Txt_last"), 13);
+        EXPECT_EQ(
+            boxes.messages,
+            (Messages{{std::string{lang} == "Eng" ? "Input string mismatch " : "Ikke akseptabel karakter ", 48}}));
+        Answer();
+        EXPECT_EQ(Focus(), "Txt_last");
+        Click("Cmd_type(0)");
+        window->Input_error(Box("Txt_alp"), 6);
+        Settle();
+        EXPECT_EQ(boxes.messages.size(), 1U);
+        EXPECT_EQ(Focus(), "Txt_alp");
+    }
+}
+
 // The click that leaves a refused box does not act; the box gets the focus back, and everything works again.
 TEST_F(Boxes, TheClickThatLeftARefusedBoxDoesNotAct) {
     Start_free();

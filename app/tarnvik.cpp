@@ -5,11 +5,11 @@
 
 #include "calc/RuntimeFault.h"
 #include "data/Startup.h"
-#include "frontend/Controls.h"
-#include "frontend/Icon.h"
-#include "frontend/QtServices.h"
-#include "frontend/Style.h"
-#include "frontend/frmMain.h"
+#include "frontend/controls/Controls.h"
+#include "frontend/controls/Style.h"
+#include "frontend/main/frmMain.h"
+#include "frontend/painting/Icon.h"
+#include "frontend/services/QtServices.h"
 
 namespace {
 

@@ -7,7 +7,7 @@
 
 #include "check/Check.h"
 #ifdef TARNVIK_WITH_FRONTEND
-#include "frontend/QtRendering.h"
+#include "frontend/services/QtRendering.h"
 #endif
 
 int main(int argc, char** argv) {

@@ -3,7 +3,7 @@
 
 #include <benchmark/benchmark.h>
 
-#include "calc/Main_beregn.h"
+#include "calc/pass/Main_beregn.h"
 #include "data/Startup.h"
 #include "spacing/Catalogue.h"
 

@@ -6,10 +6,10 @@
 
 #include <benchmark/benchmark.h>
 
-#include "calc/Main_beregn.h"
+#include "calc/pass/Main_beregn.h"
 #include "data/Startup.h"
-#include "frontend/Controls.h"
-#include "frontend/QtPrintTarget.h"
+#include "frontend/controls/Controls.h"
+#include "frontend/painting/QtPrintTarget.h"
 #include "report/PrintReport.h"
 #include "report/Recorder.h"
 

@@ -14,10 +14,10 @@
 #include <string_view>
 #include <vector>
 
-#include "data/SettingsStore.h"
-#include "frontend/Icon.h"
-#include "frontend/Style.h"
-#include "frontend/frmMain.h"
+#include "frontend/controls/Style.h"
+#include "frontend/main/frmMain.h"
+#include "frontend/painting/Icon.h"
+#include "ports/SettingsStore.h"
 
 namespace {
 

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "calc/GlobalParameter.h"
-#include "calc/MessageBox.h"
 #include "calc/Screen.h"
+#include "ports/MessageBox.h"
 
 namespace tarnvik {
 

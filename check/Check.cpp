@@ -7,17 +7,18 @@
 
 #include <nlohmann/json.hpp>
 
-#include "calc/Main_beregn.h"
+#include "calc/pass/Main_beregn.h"
 #include "check/Inputs.h"
 #include "check/Json.h"
 #include "check/Options.h"
-#include "check/Rendering.h"
 #include "check/Summary.h"
 #include "data/ProjectFile.h"
 #include "data/SetupFile.h"
 #include "data/Startup.h"
+#include "ports/Rendering.h"
 #include "report/PrintReport.h"
 #include "report/Recorder.h"
+#include "session/SystemClock.h"
 
 namespace tarnvik {
 

@@ -8,10 +8,10 @@
 #include <vector>
 
 #include "calc/GlobalParameter.h"
-#include "calc/Main_beregn.h"
-#include "calc/MessageBox.h"
 #include "calc/Screen.h"
+#include "calc/pass/Main_beregn.h"
 #include "check/Options.h"
+#include "ports/MessageBox.h"
 #include "report/Recorder.h"
 
 namespace tarnvik {

@@ -4,8 +4,8 @@
 #include <string>
 
 #include "calc/GlobalParameter.h"
-#include "calc/Main_beregn.h"
-#include "calc/MessageBox.h"
+#include "calc/pass/Main_beregn.h"
+#include "ports/MessageBox.h"
 
 namespace tarnvik {
 

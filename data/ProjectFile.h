@@ -9,7 +9,7 @@
 #include <string>
 
 #include "calc/GlobalParameter.h"
-#include "calc/MessageBox.h"
+#include "ports/MessageBox.h"
 
 namespace tarnvik {
 

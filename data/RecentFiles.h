@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "data/SettingsStore.h"
+#include "ports/SettingsStore.h"
 
 namespace tarnvik {
 

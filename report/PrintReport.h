@@ -8,8 +8,8 @@
 #include <string_view>
 
 #include "calc/GlobalParameter.h"
-#include "report/Clock.h"
-#include "report/PrintTarget.h"
+#include "ports/Clock.h"
+#include "ports/PrintTarget.h"
 
 namespace tarnvik {
 

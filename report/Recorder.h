@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "report/PrintTarget.h"
+#include "ports/PrintTarget.h"
 
 namespace tarnvik {
 

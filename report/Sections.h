@@ -6,8 +6,8 @@
 #include <string_view>
 
 #include "calc/GlobalParameter.h"
+#include "ports/PrintTarget.h"
 #include "report/PrintReport.h"
-#include "report/PrintTarget.h"
 
 namespace tarnvik {
 

@@ -1,66 +1,102 @@
 #!/usr/bin/env python3
-"""check_includes.py: checks that the folders include one way, and that the core includes no toolkit.
+"""check_includes.py: checks that the rooms of the program include one way, and that the core includes no toolkit.
 
-Prints every include that breaks a rule; exit status 1 when there is one.
+A room is a folder named below; a file belongs to the longest of them that holds it. Prints every include that breaks a
+rule; exit status 1 when there is one. With --graph it prints the arrows between the rooms instead, each with the number
+of its includes.
 """
+import collections
 import pathlib
 import re
 import sys
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 
-# The folders that the files of a folder may include.
-ALLOWED = {
-    "calc": {"calc"},
-    "data": {"calc", "data"},
-    "spacing": {"calc", "spacing"},
-    "report": {"calc", "data", "spacing", "report"},
-    "detail": {"calc", "data", "spacing", "report", "detail"},
-    "check": {"calc", "data", "spacing", "report", "detail", "check"},
-    "frontend": {"calc", "data", "spacing", "report", "detail", "frontend"},
-    "app": {"calc", "data", "spacing", "report", "detail", "check", "frontend"},
-}
-# The files that look up: the pass calls the spacing stage, the painter implements what the headless tool asks for.
-ALSO = {
-    "calc/Main_beregn.cpp": {"spacing"},
-    "frontend/QtRendering.h": {"check"},  # the painter that the headless tool is given
+# The rooms, lowest first, and those that each may include beside itself. Nothing named later may stand in a row: that is
+# what keeps every arrow pointing down.
+ROOMS = {
+    "ports": set(),
+    "calc": {"ports"},
+    "spacing": {"calc"},
+    "spacing/sketch": {"calc", "spacing"},
+    "calc/pass": {"ports", "calc", "spacing"},
+    "data": {"ports", "calc"},
+    "report": {"ports", "calc", "spacing"},
+    "detail": {"calc", "spacing", "report"},
+    "session": {"ports", "calc", "calc/pass", "spacing", "data", "report"},
+    "check": {"ports", "calc", "calc/pass", "spacing", "data", "report", "detail", "session"},
+    "frontend": {"ports", "calc", "calc/pass", "spacing", "spacing/sketch", "data", "report", "detail", "session"},
+    "app": {"ports", "calc", "data", "session", "check", "frontend"},
 }
 
-# Folders that get by with the standard library and, in data, the calls of the system that saving needs.
-CORE = {"calc", "data", "spacing", "report", "detail"}
+# Rooms that get by with the standard library and, in data, the calls of the system that saving needs.
+CORE = {"ports", "calc", "calc/pass", "spacing", "spacing/sketch", "data", "report", "detail", "session"}
 NO_QT = CORE | {"check"}
 SYSTEM = {"fcntl.h", "sys/stat.h", "sys/types.h", "unistd.h"}
 
 INCLUDE = re.compile(r'^\s*#\s*include\s*([<"])([^>"]+)[>"]')
 
 
-def main():
-    wrong = []
-    files = 0
-    for folder, allowed in ALLOWED.items():
-        for path in sorted((ROOT / folder).rglob("*")):
+def room_of(path):
+    """The longest room that holds a path of the tree, or nothing."""
+    folders = path.split("/")[:-1]
+    for length in range(len(folders), 0, -1):
+        if "/".join(folders[:length]) in ROOMS:
+            return "/".join(folders[:length])
+    return None
+
+
+def rows_point_down():
+    seen = set()
+    for room, below in ROOMS.items():
+        if not below <= seen:
+            return False
+        seen.add(room)
+    return True
+
+
+def breaks_a_rule(room, own, included):
+    if own:
+        to = room_of(included)
+        return to is None or (to != room and to not in ROOMS[room])
+    if room in NO_QT and re.match(r"Q[A-Z]|Qt", included):
+        return True
+    standard = re.fullmatch(r"[a-z0-9_]+", included)
+    return room in CORE and not standard and not (room == "data" and included in SYSTEM)
+
+
+def includes():
+    """Every include of the program: file, line number, line, room, whether it is quoted, what it names."""
+    for top in sorted({room.split("/")[0] for room in ROOMS}):
+        for path in sorted((ROOT / top).rglob("*")):
             if path.suffix not in (".cpp", ".h"):
                 continue
-            files += 1
             name = path.relative_to(ROOT).as_posix()
             for number, line in enumerate(path.read_text(encoding="utf-8").splitlines(), 1):
                 match = INCLUDE.match(line)
-                if not match:
-                    continue
-                own, included = match.group(1) == '"', match.group(2)
-                if own:
-                    to = included.split("/")[0]
-                    broken = to in ALLOWED and to not in allowed | ALSO.get(name, set())
-                    broken = broken or ("/" not in included and folder in CORE)
-                else:
-                    standard = re.fullmatch(r"[a-z0-9_]+", included)
-                    broken = (folder in CORE and not standard and not (folder == "data" and included in SYSTEM)) or (
-                        folder in NO_QT and re.match(r"Q[A-Z]|Qt", included))
-                if broken:
-                    wrong.append(f"{name}:{number}: {line.strip()}")
+                if match:
+                    yield name, number, line, room_of(name), match.group(1) == '"', match.group(2)
+
+
+def main():
+    if not rows_point_down():
+        print("includes: a room is allowed one that stands after it")
+        return 1
+    wrong = []
+    files = set()
+    arrows = collections.Counter()
+    for name, number, line, room, own, included in includes():
+        files.add(name)
+        if breaks_a_rule(room, own, included):
+            wrong.append(f"{name}:{number}: {line.strip()}")
+        elif own and room_of(included) != room:
+            arrows[room, room_of(included)] += 1
+    if "--graph" in sys.argv[1:]:
+        for (room, to), count in sorted(arrows.items(), key=lambda row: [list(ROOMS).index(r) for r in row[0]]):
+            print(f"{room} -> {to}: {count}")
     for line in wrong:
         print(line)
-    print(f"includes: {files} files, {len(wrong)} against the rules")
+    print(f"includes: {len(files)} files, {len(wrong)} against the rules")
     return 1 if wrong or not files else 0
 
 

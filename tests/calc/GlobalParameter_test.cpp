@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "calc/Main_beregn.h"
+#include "calc/pass/Main_beregn.h"
 #include "tests/calc/Support.h"
 
 namespace tarnvik {

@@ -9,7 +9,7 @@
 #include <variant>
 #include <vector>
 
-#include "calc/Main_beregn.h"
+#include "calc/pass/Main_beregn.h"
 #include "data/Startup.h"
 #include "tests/data/Support.h"
 

@@ -4,7 +4,7 @@
 
 #include <memory>
 
-#include "calc/Main_beregn.h"
+#include "calc/pass/Main_beregn.h"
 #include "data/SetupFile.h"
 #include "data/Tables.h"
 #include "tests/data/Support.h"

@@ -5,8 +5,8 @@
 #include <array>
 #include <cmath>
 
-#include "calc/Main_beregn.h"
-#include "calc/MessageBox.h"
+#include "calc/pass/Main_beregn.h"
+#include "ports/MessageBox.h"
 #include "tests/calc/Support.h"
 #include "tests/detail/Support.h"
 

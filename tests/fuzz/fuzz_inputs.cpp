@@ -4,7 +4,7 @@
 #include <nlohmann/json.hpp>
 
 #include "Fuzz.h"
-#include "calc/Main_beregn.h"
+#include "calc/pass/Main_beregn.h"
 #include "check/Inputs.h"
 #include "check/Json.h"
 #include "check/Summary.h"

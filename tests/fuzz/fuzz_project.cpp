@@ -11,7 +11,7 @@
 #include <string>
 
 #include "Fuzz.h"
-#include "calc/Main_beregn.h"
+#include "calc/pass/Main_beregn.h"
 #include "check/Json.h"
 #include "check/Summary.h"
 #include "data/ProjectFile.h"

@@ -4,7 +4,7 @@
 #include <string>
 
 #include "Fuzz.h"
-#include "calc/Main_beregn.h"
+#include "calc/pass/Main_beregn.h"
 #include "data/SetupFile.h"
 #include "data/StartValue.h"
 #include "data/Tables.h"

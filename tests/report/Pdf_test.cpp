@@ -10,11 +10,11 @@
 #include <QRegularExpression>
 #include <QStandardPaths>
 
-#include "frontend/Controls.h"
-#include "frontend/QtPrintTarget.h"
+#include "frontend/controls/Controls.h"
+#include "frontend/painting/QtPrintTarget.h"
 #include "tests/data/Support.h"
-#include "tests/frontend/Fakes.h"
 #include "tests/report/Support.h"
+#include "tests/support/Fakes.h"
 
 namespace tarnvik {
 namespace {

@@ -118,13 +118,5 @@ TEST(PrintReport, a_failing_target_ends_the_print_where_it_fails) {
               fault_path_access);
 }
 
-TEST(SystemClock, gives_a_date_and_a_time_of_eight_characters) {
-    const Moment now = SystemClock{}.Now();
-    EXPECT_FALSE(now.date.empty());
-    ASSERT_EQ(now.time.size(), 8U);
-    EXPECT_EQ(now.time[2], ':');
-    EXPECT_EQ(now.time[5], ':');
-}
-
 } // namespace
 } // namespace tarnvik

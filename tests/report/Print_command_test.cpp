@@ -3,10 +3,10 @@
 #include <QPrintDialog>
 #include <QPushButton>
 
-#include "frontend/QtServices.h"
+#include "frontend/services/QtServices.h"
 #include "report/PrintReport.h"
-#include "tests/frontend/Window.h"
 #include "tests/report/Support.h"
+#include "tests/support/Window.h"
 
 namespace tarnvik::test {
 namespace {

@@ -10,7 +10,7 @@
 #include <string_view>
 #include <vector>
 
-#include "calc/Main_beregn.h"
+#include "calc/pass/Main_beregn.h"
 #include "report/PrintReport.h"
 #include "report/Recorder.h"
 #include "report/Sections.h"

@@ -2,8 +2,8 @@
 #include <filesystem>
 
 #include "calc/RuntimeFault.h"
-#include "check/Rendering.h"
-#include "report/Clock.h"
+#include "ports/Clock.h"
+#include "ports/Rendering.h"
 #include "report/Recorder.h"
 #include "tests/check/Support.h"
 #include "tests/report/Support.h"

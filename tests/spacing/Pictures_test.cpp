@@ -5,7 +5,7 @@
 #include <set>
 #include <string>
 
-#include "calc/Main_beregn.h"
+#include "calc/pass/Main_beregn.h"
 #include "spacing/Plot_screen.h"
 #include "tests/calc/Support.h"
 

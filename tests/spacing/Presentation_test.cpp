@@ -6,7 +6,7 @@
 #include <cmath>
 #include <map>
 
-#include "calc/Main_beregn.h"
+#include "calc/pass/Main_beregn.h"
 #include "spacing/Catalogue.h"
 #include "spacing/Plot_screen.h"
 #include "spacing/Rules.h"

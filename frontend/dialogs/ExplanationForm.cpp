@@ -1,0 +1,78 @@
+#include "frontend/dialogs/ExplanationForm.h"
+
+#include <QPushButton>
+#include <QShowEvent>
+
+#include <cmath>
+#include <stdexcept>
+#include <string>
+
+#include "frontend/controls/Controls.h"
+#include "frontend/controls/PaintedArea.h"
+#include "frontend/controls/Style.h"
+#include "frontend/main/frmMain.h"
+
+namespace tarnvik {
+
+namespace {
+
+const ExplanationWindow& Named(std::string_view name) {
+    const ExplanationWindow* found = Find_explanation(name);
+    if (found == nullptr) {
+        throw std::logic_error{"no explanation window named " + std::string{name}};
+    }
+    return *found;
+}
+
+constexpr double below_text = 11.0; // pixels at 96 dots per inch
+
+} // namespace
+
+ExplanationForm::ExplanationForm(frmMain& window, QWidget& parent, std::string_view name)
+    : QDialog(&parent), window_(window), explanation_(Named(name)) {
+    setObjectName(Q(explanation_.name));
+    QWidget* holder = this;
+    if (!explanation_.frame.empty()) {
+        holder = new Frame{this};
+        holder->setObjectName(Q(explanation_.frame));
+    }
+    auto* area = new PaintedArea{holder};
+    area->setObjectName(Q(explanation_.text_control));
+    auto* ok = new QPushButton{QStringLiteral("OK"), this};
+    ok->setObjectName(QStringLiteral("Cmd_ok"));
+    ok->setDefault(true);
+    connect(ok, &QAbstractButton::clicked, this, &QDialog::accept);
+}
+
+void ExplanationForm::Lay_out() {
+    const double dpi = logicalDpiX();
+    setFixedSize(static_cast<int>(std::lround(explanation_.width * window_.width())),
+                 static_cast<int>(std::lround(explanation_.height * window_.height())));
+    // Inside to inside: the frame that the window manager will draw is not known yet, and it is the same for both.
+    setGeometry(window_.geometry().left() + (window_.width() - width()) / 2,
+                window_.geometry().top() + (window_.height() - height()) / 2, width(), height());
+
+    const QRect outer =
+        QRectF{0.015 * width(), 0.01 * height(), 0.96 * width(), explanation_.frame_height * height()}.toRect();
+    auto* area = findChild<PaintedArea*>(Q(explanation_.text_control));
+    if (auto* frame = qobject_cast<Frame*>(area->parentWidget())) {
+        frame->setGeometry(outer);
+        area->setGeometry(
+            QRectF{0.015 * outer.width(), 0.02 * outer.height(), 0.97 * outer.width(), 0.96 * outer.height()}.toRect());
+    } else {
+        area->setGeometry(outer);
+    }
+    findChild<QPushButton*>(QStringLiteral("Cmd_ok"))
+        ->setGeometry((width() - Scaled(72, dpi)) / 2, outer.y() + outer.height() + Scaled(below_text, dpi),
+                      Scaled(72, dpi), Scaled(26, dpi));
+}
+
+void ExplanationForm::showEvent(QShowEvent* event) {
+    Lay_out();
+    Painting painting = Paint_explanation(explanation_, window_.State());
+    setWindowTitle(Q(painting.caption));
+    findChild<PaintedArea*>(Q(explanation_.text_control))->Set_painting(std::move(painting));
+    QDialog::showEvent(event);
+}
+
+} // namespace tarnvik

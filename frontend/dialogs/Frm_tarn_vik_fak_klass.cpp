@@ -1,0 +1,143 @@
+#include "frontend/dialogs/Frm_tarn_vik_fak_klass.h"
+
+#include <QPushButton>
+#include <QShowEvent>
+
+#include <array>
+#include <cmath>
+#include <string>
+
+#include "frontend/controls/Controls.h"
+#include "frontend/controls/Style.h"
+#include "frontend/dialogs/ExplanationForm.h"
+#include "frontend/main/frmMain.h"
+
+namespace tarnvik {
+
+namespace {
+
+constexpr int load_classes = 5;
+constexpr int service_classes = 3;
+
+QString Indexed(const char* name, int index) {
+    return QString::fromLatin1("%1(%2)").arg(QLatin1String(name)).arg(index);
+}
+
+} // namespace
+
+Frm_tarn_vik_fak_klass::Frm_tarn_vik_fak_klass(frmMain& window) : QDialog(&window), window_(window) {
+    setObjectName(QStringLiteral("Frm_tarn_vik_fak_klass"));
+    auto* load = new Frame{this};
+    load->setObjectName(QStringLiteral("Fra_lastvar"));
+    auto* service = new Frame{this};
+    service->setObjectName(QStringLiteral("Fra_klimaklasse"));
+
+    const auto option = [](Frame* parent, const char* name, int index, const QString& caption) {
+        auto* made = new Option{caption, parent};
+        made->setObjectName(Indexed(name, index));
+        return made;
+    };
+    const auto button = [](QWidget* parent, const char* name, const QString& caption, const char* accessible) {
+        auto* made = new QPushButton{caption, parent};
+        made->setObjectName(QLatin1String(name));
+        made->setAutoDefault(false);
+        made->setAccessibleName(QLatin1String(accessible));
+        return made;
+    };
+    for (int i = 0; i < load_classes; ++i) {
+        connect(option(load, "Opt_Lastvarighet", i, {}), &QAbstractButton::toggled, this, [this, i](bool selected) {
+            if (selected && !window_.State().Loading) {
+                window_.State().Lastvar = static_cast<std::int16_t>(i + 1);
+                window_.Recalculate();
+            }
+        });
+    }
+    const auto on_help = [this](const QPushButton* from, const char* name) {
+        connect(from, &QAbstractButton::clicked, this, [this, name] {
+            ExplanationForm explanation{window_, *this, name};
+            explanation.exec();
+        });
+    };
+    on_help(button(load, "Cmd_lastvar", QStringLiteral("?"), "Explanation of the load-duration classes"),
+            "frm_tarn_vik_lastvarighet");
+    for (int i = 0; i < service_classes; ++i) {
+        connect(option(service, "Opt_klimaklasse", i, QString::number(i + 1)), &QAbstractButton::toggled, this,
+                [this, i](bool selected) {
+                    if (selected && !window_.State().Loading) {
+                        window_.State().Klima = static_cast<std::int16_t>(i + 1);
+                        window_.Recalculate();
+                    }
+                });
+    }
+    on_help(button(service, "Cmd_klima", QStringLiteral("?"), "Explanation of the service classes"),
+            "frm_tarn_vik_klima");
+    connect(button(this, "Cmd_ok", QStringLiteral("OK"), "OK"), &QAbstractButton::clicked, this, &QDialog::accept);
+}
+
+QAbstractButton* Frm_tarn_vik_fak_klass::Button(std::string_view name) const {
+    return findChild<QAbstractButton*>(Q(name));
+}
+
+void Frm_tarn_vik_fak_klass::Select_classes(int Lastvar, int Klima) {
+    if (QAbstractButton* load = Button("Opt_Lastvarighet(" + std::to_string(Lastvar - 1) + ")")) {
+        load->setChecked(true);
+    }
+    if (QAbstractButton* service = Button("Opt_klimaklasse(" + std::to_string(Klima - 1) + ")")) {
+        service->setChecked(true);
+    }
+}
+
+void Frm_tarn_vik_fak_klass::Set_caption_of(std::string_view control, std::string_view caption) {
+    if (control.empty()) {
+        setWindowTitle(Q(caption));
+    } else if (auto* frame = findChild<Frame*>(Q(control))) {
+        frame->setTitle(Q(caption));
+    } else if (QAbstractButton* button = Button(control)) {
+        button->setText(Q(caption));
+    }
+}
+
+void Frm_tarn_vik_fak_klass::Lay_out() {
+    const double dpi = logicalDpiX();
+    const double w = 0.34 * window_.width();
+    const double h = 0.32 * window_.height();
+    setFixedSize(static_cast<int>(std::lround(w)), static_cast<int>(std::lround(h)));
+    move(window_.frameGeometry().left() + (window_.frameGeometry().width() - width()) / 2,
+         window_.frameGeometry().top() + static_cast<int>(std::lround(0.01 * window_.height())));
+
+    const auto place = [](QWidget* widget, double left, double top, double wide, double high) {
+        widget->setGeometry(QRectF{left, top, wide, high}.toRect());
+    };
+    auto* load = findChild<Frame*>(QStringLiteral("Fra_lastvar"));
+    auto* service = findChild<Frame*>(QStringLiteral("Fra_klimaklasse"));
+    const double load_w = 0.48 * w;
+    const double load_h = 0.85 * h;
+    const double service_w = 0.9 * load_w;
+    const double service_h = 0.5 * load_h;
+    place(load, 0.02 * w, 0.02 * h, load_w, load_h);
+    place(service, 0.02 * w + load_w + 0.02 * w, 0.02 * h, service_w, service_h);
+
+    const double button_w = Scaled(44, dpi);
+    const double button_h = Scaled(21, dpi);
+    const double top = Scaled(20, dpi);
+    const double step = (0.85 * load_h - top) / load_classes;
+    for (int i = 0; i < load_classes; ++i) {
+        place(findChild<QWidget*>(Indexed("Opt_Lastvarighet", i)), Scaled(10, dpi), top + i * step,
+              load_w - Scaled(14, dpi), step);
+    }
+    place(findChild<QWidget*>(QStringLiteral("Cmd_lastvar")), 0.35 * load_w, 0.85 * load_h, button_w, button_h);
+    for (int i = 0; i < service_classes; ++i) {
+        place(findChild<QWidget*>(Indexed("Opt_klimaklasse", i)), Scaled(12, dpi) + i * service_w / 3.2,
+              Scaled(24, dpi), Scaled(36, dpi), Scaled(20, dpi));
+    }
+    place(findChild<QWidget*>(QStringLiteral("Cmd_klima")), 0.35 * service_w, 0.6 * service_h, button_w, button_h);
+    place(findChild<QWidget*>(QStringLiteral("Cmd_ok")), 0.65 * w, 0.6 * h, Scaled(72, dpi), Scaled(26, dpi));
+}
+
+void Frm_tarn_vik_fak_klass::showEvent(QShowEvent* event) {
+    Lay_out();
+    Select_classes(window_.State().Lastvar, window_.State().Klima);
+    QDialog::showEvent(event);
+}
+
+} // namespace tarnvik

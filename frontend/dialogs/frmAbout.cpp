@@ -1,0 +1,96 @@
+#include "frontend/dialogs/frmAbout.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QMouseEvent>
+#include <QScreen>
+#include <QShowEvent>
+#include <QVBoxLayout>
+
+#include <array>
+
+#include "frontend/controls/Controls.h"
+#include "frontend/controls/Style.h"
+#include "frontend/main/frmMain.h"
+#include "frontend/painting/Icon.h"
+
+namespace tarnvik {
+
+namespace {
+
+const QColor link_colour{0, 85, 152};
+
+struct Link {
+    const char* name;
+    const char* text;
+    const char* address;
+};
+constexpr std::array links{
+    Link{"Lbl_web", "https://tarnvik.example", "https://tarnvik.example"},
+    Link{"Lbl_mail", "post@tarnvik.example", "mailto:post@tarnvik.example"},
+};
+
+} // namespace
+
+frmAbout::frmAbout(frmMain& window) : QDialog(&window), window_(window) {
+    setObjectName(QStringLiteral("frmAbout"));
+    setWindowTitle(Is_english(window.State()) ? QStringLiteral("About Tarnvik") : QStringLiteral("Om Tarnvik"));
+    const double dpi = logicalDpiX();
+    auto* all = new QHBoxLayout{this};
+    const int margin = Scaled(24, dpi);
+    all->setContentsMargins(margin, Scaled(18, dpi), margin, Scaled(18, dpi));
+    all->setSpacing(margin);
+    auto* icon = new QLabel{this};
+    icon->setObjectName(QStringLiteral("Img_icon"));
+    icon->setAccessibleName(QStringLiteral("Tarnvik"));
+    icon->setPixmap(Program_icon().pixmap(QSize{Scaled(64, dpi), Scaled(64, dpi)}, devicePixelRatioF()));
+    all->addWidget(icon, 0, Qt::AlignTop);
+    auto* lines = new QVBoxLayout;
+    lines->setSpacing(Scaled(6, dpi));
+    all->addLayout(lines);
+    const auto add = [this, lines](const char* name, const QString& text, double points, bool bold, bool link) {
+        auto* label = new QLabel{text, this};
+        label->setObjectName(QLatin1String(name));
+        QFont font = Text_font(points);
+        font.setBold(bold);
+        label->setFont(font);
+        if (link) {
+            QPalette palette = label->palette();
+            palette.setColor(QPalette::WindowText, link_colour);
+            label->setPalette(palette);
+        }
+        lines->addWidget(label);
+        return label;
+    };
+    add("Lbl_name", QStringLiteral("Tarnvik"), 18.0, true, true);
+    add("Lbl_title", Q(window.About().title), 10.0, false, false);
+    add("Lbl_version", Q(window.About().version), 8.0, false, false);
+    add("Lbl_rights", QStringLiteral("Tarnvik developers"), 8.0, false, false);
+    for (const Link& link : links) {
+        QLabel* label = add(link.name, QLatin1String(link.text), 8.0, false, true);
+        label->setCursor(Qt::PointingHandCursor);
+    }
+    all->setSizeConstraint(QLayout::SetFixedSize);
+}
+
+void frmAbout::mousePressEvent(QMouseEvent* event) {
+    for (const Link& link : links) {
+        const auto* label = findChild<QLabel*>(QLatin1String(link.name));
+        if (label->geometry().contains(event->pos())) {
+            if (!window_.Platform().opener.Open_link(link.address)) {
+                window_.Platform().boxes.Show(std::string{"Can't open "} + link.address, box_exclamation);
+            }
+            return;
+        }
+    }
+    accept();
+}
+
+void frmAbout::showEvent(QShowEvent* event) {
+    QDialog::showEvent(event);
+    adjustSize();
+    const QRect all = screen()->availableGeometry();
+    move(all.center() - rect().center());
+}
+
+} // namespace tarnvik

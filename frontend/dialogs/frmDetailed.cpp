@@ -1,0 +1,76 @@
+#include "frontend/dialogs/frmDetailed.h"
+
+#include <QPushButton>
+#include <QShowEvent>
+
+#include <cmath>
+
+#include "detail/Detailed_calc.h"
+#include "frontend/controls/Controls.h"
+#include "frontend/controls/PaintedArea.h"
+#include "frontend/controls/Style.h"
+#include "frontend/main/frmMain.h"
+
+namespace tarnvik {
+
+namespace {
+
+constexpr double below_frame = 165.0 / 15.0; // twips to pixels at 96 dots per inch
+
+} // namespace
+
+frmDetailed::frmDetailed(frmMain& window) : QDialog(&window), window_(window) {
+    setObjectName(QStringLiteral("frmDetailed"));
+    auto* frame = new Frame{this};
+    frame->setObjectName(QStringLiteral("Fra_detailed"));
+    auto* area = new PaintedArea{frame};
+    area->setObjectName(QStringLiteral("Pic_detailed"));
+    for (const EquationPlace& place : equation_places) {
+        auto* equation = new PictureArea{area};
+        equation->setObjectName(Q(place.control));
+        equation->setAccessibleName(QStringLiteral("Equation of Rk(%1)").arg(QLatin1Char(place.control.back())));
+        equation->Set_framed(false);
+        equation->Set_picture(place.key);
+        equation->setVisible(!place.double_shear);
+    }
+    auto* ok = new QPushButton{QStringLiteral("OK"), this};
+    ok->setObjectName(QStringLiteral("Cmd_ok"));
+    ok->setDefault(true);
+    connect(ok, &QAbstractButton::clicked, this, &QDialog::accept);
+}
+
+void frmDetailed::Lay_out() {
+    const double dpi = logicalDpiX();
+    setFixedSize(static_cast<int>(std::lround(0.65 * window_.width())), window_.height());
+    // Inside to inside: the frame that the window manager will draw is not known yet, and it is the same for both.
+    setGeometry(window_.geometry().left() + (window_.width() - width()) / 2, window_.geometry().top(), width(),
+                height());
+
+    auto* frame = findChild<Frame*>(QStringLiteral("Fra_detailed"));
+    const double w = width();
+    const double h = height();
+    frame->setGeometry(QRectF{0.015 * w, 0.005 * h, 0.96 * w, 0.89 * h}.toRect());
+    const double frame_w = frame->width();
+    const double frame_h = frame->height();
+    auto* area = findChild<PaintedArea*>(QStringLiteral("Pic_detailed"));
+    area->setGeometry(QRectF{0.015 * frame_w, 0.02 * frame_h, 0.96 * frame_w, 0.97 * frame_h}.toRect());
+    for (const EquationPlace& place : equation_places) {
+        findChild<PictureArea*>(Q(place.control))
+            ->setGeometry(QRectF{place.left * area->width(), place.top * area->height(), place.width * area->width(),
+                                 place.height * area->height()}
+                              .toRect());
+    }
+    findChild<QPushButton*>(QStringLiteral("Cmd_ok"))
+        ->setGeometry((width() - Scaled(72, dpi)) / 2, frame->y() + frame->height() + Scaled(below_frame, dpi),
+                      Scaled(72, dpi), Scaled(26, dpi));
+}
+
+void frmDetailed::showEvent(QShowEvent* event) {
+    Lay_out();
+    Painting painting = Paint_detailed(window_.State());
+    setWindowTitle(Q(painting.caption));
+    findChild<PaintedArea*>(QStringLiteral("Pic_detailed"))->Set_painting(std::move(painting));
+    QDialog::showEvent(event);
+}
+
+} // namespace tarnvik

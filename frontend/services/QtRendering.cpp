@@ -1,0 +1,95 @@
+#include "frontend/services/QtRendering.h"
+
+#include <QApplication>
+#include <QImage>
+#include <QPainter>
+#include <QSvgGenerator>
+
+#include <cstdio>
+#include <fstream>
+
+#include "calc/RuntimeFault.h"
+#include "frontend/controls/Controls.h"
+#include "frontend/painting/PictureStore.h"
+#include "frontend/painting/QtPrintTarget.h"
+#include "frontend/services/QtServices.h"
+
+namespace tarnvik {
+
+namespace {
+
+constexpr std::string_view where = "Write_pictures";
+constexpr double png_scale = 2.0; // pixels of the PNG for a pixel at 96 dpi
+
+// The toolkit's messages, but for the one that a session without a desktop always brings.
+void Pass_on(QtMsgType /*type*/, const QMessageLogContext& /*context*/, const QString& text) {
+    if (!text.startsWith(QLatin1String("QStandardPaths: XDG_RUNTIME_DIR not set"))) {
+        std::fprintf(stderr, "%s\n", qPrintable(text));
+    }
+}
+
+} // namespace
+
+QtRendering::QtRendering(int& argc, char** argv) : argc_(argc), argv_(argv) {}
+
+QtRendering::~QtRendering() = default;
+
+void QtRendering::Start() {
+    if (QCoreApplication::instance() == nullptr) {
+        if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
+            qputenv("QT_QPA_PLATFORM", "offscreen"); // no display is asked for
+        }
+        qInstallMessageHandler(Pass_on);
+        application_ = std::make_unique<QApplication>(argc_, argv_);
+    }
+}
+
+int QtRendering::Write_pictures(const std::filesystem::path& folder) {
+    Start();
+    int written = 0;
+    for (const std::string& key : Picture_keys()) {
+        const std::filesystem::path base = folder / key;
+        std::error_code error;
+        std::filesystem::create_directories(base.parent_path(), error);
+        if (error) {
+            Raise(fault_path_not_found, where);
+        }
+        const QSizeF size = Picture_size(key);
+        const QRectF room{QPointF{}, size};
+
+        QImage image{(size * png_scale).toSize(), QImage::Format_RGB32};
+        image.fill(Qt::white);
+        {
+            QPainter painter{&image};
+            painter.scale(png_scale, png_scale);
+            Paint_picture(key, painter, room);
+        }
+        if (!image.save(Q(base.string() + ".png"))) {
+            Raise(fault_path_access, where);
+        }
+
+        QSvgGenerator svg;
+        svg.setFileName(Q(base.string() + ".svg"));
+        svg.setSize(size.toSize());
+        svg.setViewBox(room);
+        svg.setResolution(96);
+        svg.setTitle(Q(key));
+        QPainter painter;
+        if (!painter.begin(&svg)) {
+            Raise(fault_path_access, where);
+        }
+        Paint_picture(key, painter, room);
+        painter.end();
+        ++written;
+    }
+    return written;
+}
+
+void QtRendering::Write_report(const std::filesystem::path& file, const std::string& title,
+                               const std::function<void(PrintTarget&, const Moment&)>& draw) {
+    Start();
+    const std::unique_ptr<PrintTarget> target = Pdf_target(file, title);
+    draw(*target, QtClock{}.Now());
+}
+
+} // namespace tarnvik

@@ -1,0 +1,163 @@
+#include "frontend/services/QtServices.h"
+
+#include <QApplication>
+#include <QDateTime>
+#include <QDesktopServices>
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QLocale>
+#include <QMessageBox>
+#include <QPageSize>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <QSettings>
+#include <QUrl>
+
+#include <algorithm>
+
+#include "frontend/controls/Controls.h"
+#include "frontend/painting/QtPrintTarget.h"
+#include "session/SystemClock.h"
+
+namespace tarnvik {
+
+namespace {
+
+QSettings Open_settings(std::string_view application) {
+    return QSettings{QSettings::NativeFormat, QSettings::UserScope, Q(application), Q(application)};
+}
+
+QFileDialog::Options No_options() {
+    return {};
+}
+
+constexpr int flag_overwrite_prompt = 2;
+constexpr int flag_no_selection = 4;
+
+} // namespace
+
+void QtBoxService::Show_then(std::string_view text, int style, std::function<void()> then) {
+    // Where both passes of one input say the same, the user answers once.
+    const auto waits = [&](const Pending& other) { return other.text == text && other.style == style && !other.then; };
+    if (!then && ((shown_ && waits(current_)) || std::any_of(pending_.begin(), pending_.end(), waits))) {
+        return;
+    }
+    pending_.push_back({std::string{text}, style, std::move(then)});
+    QMetaObject::invokeMethod(this, &QtBoxService::Next, Qt::QueuedConnection);
+}
+
+void QtBoxService::Next() {
+    if (shown_ || pending_.empty()) {
+        return;
+    }
+    shown_ = true;
+    current_ = std::move(pending_.front());
+    pending_.pop_front();
+    while (QWidget* popup = QApplication::activePopupWidget()) { // a list that dropped down would hide the box
+        popup->close();
+    }
+    QWidget* parent = QApplication::activeModalWidget();
+    if (parent == nullptr) {
+        parent = QApplication::activeWindow();
+    }
+    auto* box = new QMessageBox{current_.style == box_exclamation ? QMessageBox::Warning : QMessageBox::NoIcon,
+                                QStringLiteral(" "), Q(current_.text), QMessageBox::Ok, parent};
+    box->setObjectName(QStringLiteral("MessageBox"));
+    box->setTextFormat(Qt::PlainText);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->setWindowModality(Qt::ApplicationModal);
+    connect(box, &QMessageBox::finished, this, [this, then = current_.then] {
+        shown_ = false;
+        if (then) {
+            // After the box is gone, so that the focus goes back to a window that is active again.
+            QMetaObject::invokeMethod(this, then, Qt::QueuedConnection);
+        }
+        QMetaObject::invokeMethod(this, &QtBoxService::Next, Qt::QueuedConnection);
+    });
+    box->show();
+}
+
+std::optional<std::string> QtFileDialogs::Open(const FileRequest& request) {
+    const QString path = QFileDialog::getOpenFileName(QApplication::activeWindow(), {}, QDir::currentPath(),
+                                                      Q("Tarnvik (" + request.filter + ")"), nullptr, No_options());
+    return path.isEmpty() ? std::nullopt : std::optional{U(path)};
+}
+
+std::optional<std::string> QtFileDialogs::Save(const FileRequest& request) {
+    QFileDialog dialog{QApplication::activeWindow()};
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setFileMode(QFileDialog::AnyFile);
+    dialog.setNameFilter(Q("Tarnvik (" + request.filter + ")"));
+    dialog.setDefaultSuffix(Q(request.default_extension));
+    dialog.setOption(QFileDialog::DontConfirmOverwrite, (request.flags & flag_overwrite_prompt) == 0);
+    const QFileInfo start{Q(request.file_name)};
+    dialog.setDirectory(start.absoluteDir());
+    dialog.selectFile(start.fileName());
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
+        return std::nullopt;
+    }
+    return U(dialog.selectedFiles().constFirst());
+}
+
+std::unique_ptr<PrintTarget> QtPrinterService::Show_printer(const PrinterRequest& request) {
+    auto printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
+    printer->setPageSize(QPageSize{QPageSize::A4}); // what the report is laid out for
+    printer->setDocName(Q(request.document));
+    QPrintDialog dialog{printer.get(), QApplication::activeWindow()};
+    dialog.setObjectName(QStringLiteral("PrinterDialog"));
+    dialog.setOption(QPrintDialog::PrintSelection, (request.flags & flag_no_selection) == 0);
+    // The report is always printed whole. The box for printing to a file, which the flags hide, is the entry "Print to
+    // File (PDF)" of the list of printers here: it stays, as the printer of a machine without one.
+    dialog.setOption(QPrintDialog::PrintPageRange, false);
+    dialog.setOption(QPrintDialog::PrintToFile, true);
+    if (dialog.exec() != QDialog::Accepted) {
+        return nullptr;
+    }
+    if (printer->outputFormat() == QPrinter::PdfFormat) {
+        return Pdf_target(printer->outputFileName().toStdString(), request.document, printer->pageLayout());
+    }
+    return Printer_target(std::move(printer));
+}
+
+Moment QtClock::Now() {
+    const QLocale locale = QLocale::system();
+    if (locale.language() == QLocale::C) { // whose short form of the toolkit is a long one
+        return SystemClock{}.Now();
+    }
+    const QDateTime now = QDateTime::currentDateTime();
+    return {U(locale.toString(now.date(), QLocale::ShortFormat)), U(now.time().toString(QStringLiteral("HH:mm:ss")))};
+}
+
+bool QtDocumentOpener::Open_file(const std::string& path) {
+    return QDesktopServices::openUrl(QUrl::fromLocalFile(Q(path)));
+}
+
+bool QtDocumentOpener::Open_link(const std::string& url) {
+    return QDesktopServices::openUrl(QUrl{Q(url)});
+}
+
+std::string QtSettingsStore::Get(std::string_view application, std::string_view section, std::string_view key) const {
+    QSettings settings = Open_settings(application);
+    settings.beginGroup(Q(section));
+    return U(settings.value(Q(key)).toString());
+}
+
+std::vector<Setting> QtSettingsStore::Get_all(std::string_view application, std::string_view section) const {
+    QSettings settings = Open_settings(application);
+    settings.beginGroup(Q(section));
+    std::vector<Setting> rows;
+    for (const QString& key : settings.childKeys()) {
+        rows.push_back({U(key), U(settings.value(key).toString())});
+    }
+    return rows;
+}
+
+void QtSettingsStore::Save(std::string_view application, std::string_view section, std::string_view key,
+                           std::string_view value) {
+    QSettings settings = Open_settings(application);
+    settings.beginGroup(Q(section));
+    settings.setValue(Q(key), Q(value));
+}
+
+} // namespace tarnvik

@@ -1,0 +1,78 @@
+// What the window asks of its surroundings: each behind one small interface, so that tests answer in its place.
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "ports/MessageBox.h"
+#include "ports/PrintTarget.h"
+
+namespace tarnvik {
+
+// Message boxes of the window. A box never nests an event loop: it is shown after the running handler has returned, and
+// what has to follow its answer is passed along.
+class BoxService : public MessageBox {
+public:
+    void Show(std::string_view text, int style) override { Show_then(text, style, {}); }
+
+    // `then` runs when the box has been answered.
+    virtual void Show_then(std::string_view text, int style, std::function<void()> then) = 0;
+};
+
+// What a file dialog is asked for. Flags are those of the common dialog: 2 prompt on overwrite, 4 hide the read-only
+// box, 4096 the file must exist.
+struct FileRequest {
+    std::string filter;    // "*.tnvik"
+    std::string file_name; // what the dialog starts with
+    std::string default_extension;
+    int flags{};
+};
+
+class FileDialogs {
+public:
+    FileDialogs() = default;
+    FileDialogs(const FileDialogs&) = delete;
+    FileDialogs& operator=(const FileDialogs&) = delete;
+    virtual ~FileDialogs() = default;
+
+    // The chosen path, or nothing where the dialog was cancelled.
+    virtual std::optional<std::string> Open(const FileRequest& request) = 0;
+    virtual std::optional<std::string> Save(const FileRequest& request) = 0;
+};
+
+// What the printer dialog is asked for. Flags are those of the common dialog: 4 no selection, 1048576 (hexadecimal
+// 100000) no box for printing to a file.
+struct PrinterRequest {
+    int flags{};
+    std::string document; // the job's name
+};
+
+class PrinterService {
+public:
+    PrinterService() = default;
+    PrinterService(const PrinterService&) = delete;
+    PrinterService& operator=(const PrinterService&) = delete;
+    virtual ~PrinterService() = default;
+
+    // The dialog, and the print job that it leads to; null where it was cancelled. A job that is not ended is dropped.
+    // Errors: throws RuntimeFault where no job can be started.
+    virtual std::unique_ptr<PrintTarget> Show_printer(const PrinterRequest& request) = 0;
+};
+
+// Opens a document or a link with the desktop's own program.
+class DocumentOpener {
+public:
+    DocumentOpener() = default;
+    DocumentOpener(const DocumentOpener&) = delete;
+    DocumentOpener& operator=(const DocumentOpener&) = delete;
+    virtual ~DocumentOpener() = default;
+
+    // False where it cannot be opened.
+    virtual bool Open_file(const std::string& path) = 0;
+    virtual bool Open_link(const std::string& url) = 0;
+};
+
+} // namespace tarnvik

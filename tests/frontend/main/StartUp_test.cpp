@@ -1,0 +1,186 @@
+// The start: what a new project shows, in both languages, and what a missing file does.
+#include <QScreen>
+
+#include "calc/RuntimeFault.h"
+#include "data/Startup.h"
+#include "frontend/dialogs/Frm_tarn_vik_fak_klass.h"
+#include "tests/support/Window.h"
+
+namespace tarnvik::test {
+namespace {
+
+using StartUp = WindowTest;
+
+TEST_F(StartUp, ShowsANewProjectInEnglish) {
+    Start("Eng");
+    EXPECT_EQ(Caption(), "Tarnvik: New File");
+    EXPECT_EQ(Text("txtprosjekt"), "Project 1");
+    EXPECT_EQ(Text("txtid"), "Bolt Connections -1");
+    EXPECT_EQ(Text("Lbl_lastvar_2"), "Permanent action    ");
+}
+
+TEST_F(StartUp, ShowsANewProjectInNorwegian) {
+    Start("Nor");
+    EXPECT_EQ(Caption(), "Tarnvik: Ny Fil");
+    EXPECT_EQ(Text("txtprosjekt"), "Prosjekt 1");
+    EXPECT_EQ(Text("txtid"), "Bolteforbindelse - 1");
+    EXPECT_EQ(Text("Lbl_lastvar_2"), "Permanent           ");
+}
+
+TEST_F(StartUp, SelectsTheStartValues) {
+    Start();
+    EXPECT_TRUE(Checked("Opt_bolt_bulldog(0)"));
+    EXPECT_FALSE(Checked("Opt_bolt_bulldog(1)"));
+    EXPECT_EQ(Text("Comb_bolter"), "M20x8.8");
+    EXPECT_EQ(Text("Comb_ant_bolt"), "2");
+    EXPECT_EQ(Text("Comb_bolt_avstand"), "5d");
+    EXPECT_EQ(Text("Comb_bulldog"), "Double-sided D62");
+    EXPECT_EQ(Text("cboMat"), "C20");
+    EXPECT_EQ(Text("cboProf1"), "T  34x95");
+    EXPECT_EQ(Text("cboProf2"), "T  36x73");
+    EXPECT_TRUE(Checked("Opt_stand"));
+    EXPECT_TRUE(Checked("Opt_trykk"));
+    EXPECT_FALSE(Checked("Opt_strekk"));
+    EXPECT_TRUE(Enabled("Opt_strekk"));
+    EXPECT_EQ(Text("Txt_last"), "10.0");
+    EXPECT_EQ(Text("Txt_alp"), "25.0");
+    EXPECT_TRUE(Checked("Opt_enk_1"));
+    EXPECT_TRUE(Checked("Opt_enk_2"));
+    EXPECT_FALSE(Checked("Check_man"));
+    EXPECT_FALSE(Enabled("Txt_man_he"));
+    EXPECT_FALSE(Enabled("Lbl_man_he"));
+    EXPECT_TRUE(Enabled("Fra_standard"));
+    EXPECT_FALSE(Enabled("Fra_valgfri"));
+    auto& classes = window->Classes_form();
+    EXPECT_TRUE(Find_in<QAbstractButton>(classes, "Opt_Lastvarighet(0)").isChecked());
+    EXPECT_TRUE(Find_in<QAbstractButton>(classes, "Opt_klimaklasse(0)").isChecked());
+}
+
+TEST_F(StartUp, HasCalculatedOnceBeforeTheFirstInput) {
+    int before = -1;
+    Write_setup_language("Eng");
+    window = std::make_unique<frmMain>(s, Services{boxes, dialogs, opener, settings, printer, clock}, folder.Path());
+    QObject::connect(window.get(), &frmMain::Calculated, window.get(), [this] { ++passes; });
+    before = passes;
+    window->Load();
+    Settle();
+    EXPECT_EQ(passes - before, 1);
+    EXPECT_FALSE(s.Loading);
+    EXPECT_TRUE(boxes.messages.empty());
+}
+
+TEST_F(StartUp, ShowsTheFirstResults) {
+    Start();
+    EXPECT_EQ(Text("Lbl_klima_2"), "1");
+    EXPECT_EQ(Text("Lbl_kmod2"), "0.60 ");
+    EXPECT_EQ(Text("lbl_densitet2"), "330 ");
+    EXPECT_EQ(Text("Lbl_fc90k2"), "2.3 ");
+    EXPECT_EQ(Text("lbl_gm"), "1.30 ");
+    EXPECT_EQ(Text("Lbl_skive_diameter2"), "60.0 ");
+    EXPECT_EQ(Text("Lbl_skive_tykk2"), "6.0 ");
+    EXPECT_EQ(Text("Txt_b1"), "34.0");
+    EXPECT_EQ(Text("Txt_h1"), "95.0");
+    EXPECT_EQ(Text("Txt_b2"), "36.0");
+    EXPECT_EQ(Text("Txt_h2"), "73.0");
+    EXPECT_EQ(Text("Lbl_last_kontroll"), "10.0");
+    EXPECT_EQ(Text("Lbl_bolt_kap2"), std::string{Format(s.Rd_bolt, "0.0 ").View()});
+    EXPECT_EQ(Text("Lbl_Rd_kontroll"), std::string{Format(s.Rd_bolt, "0.0").View()});
+    EXPECT_EQ(Text("Lbl_uf"), std::string{Format(s.uf, "0.00 ").View()});
+    EXPECT_TRUE(Find("Lbl_uf").font().bold());
+    EXPECT_EQ(Fore("Lbl_uf"), s.uf > 1.0F ? red : dark_green);
+    EXPECT_EQ(Text("Lbl_tverr_2"), std::string{Format(s.Tverr_kontroll, "0.00").View()});
+    EXPECT_TRUE(Find("Lbl_tverr_2").font().bold());
+    EXPECT_EQ(Fore("Lbl_tverr_2"), s.Tverr_kontroll > 1.0F ? red : dark_green);
+    EXPECT_EQ(Text("Txt_man_he"), std::string{Format(s.he, "00").View()});
+    EXPECT_EQ(s.Case_code, "1.2.b");
+    EXPECT_FALSE(Find<TableArea>("Pic_av_bolter_dif").Rows().empty());
+    EXPECT_EQ(Find<PictureArea>("Pic_forbindelse").Picture(), std::string{window->Shown().Pic_forbindelse});
+    EXPECT_FALSE(Find<PictureArea>("Pic_forbindelse").Picture().empty());
+    EXPECT_FALSE(Find<PictureArea>("Pic_av_bolter").Picture().empty());
+    EXPECT_TRUE(Visible("Cmd_detail"));
+}
+
+TEST_F(StartUp, HidesWhatBelongsToConnectors) {
+    Start();
+    for (const char* name : {"Fra_bulldog", "Fra_av_bulldog", "Lbl_bulldog_kap1", "Lbl_bulldog_kap2", "Lbl_pluss",
+                             "Lbl_Rd_bulldog_kontroll", "Lbl_tot_eff_bulldog_1", "Lbl_tot_eff_bulldog_2"}) {
+        EXPECT_FALSE(Visible(name)) << name;
+    }
+}
+
+TEST_F(StartUp, PutsTheFocusIntoTheProjectNameGreenAndSelected) {
+    Start();
+    EXPECT_EQ(Focus(), "txtprosjekt");
+    EXPECT_EQ(Back("txtprosjekt"), green);
+    EXPECT_EQ(Box("txtprosjekt").selectedText(), QStringLiteral("Project 1"));
+    for (const char* other : {"txtid", "Txt_b1", "Txt_h1", "Txt_b2", "Txt_h2", "Txt_last", "Txt_alp", "Txt_man_he"}) {
+        EXPECT_EQ(Back(other), white) << other;
+    }
+}
+
+TEST_F(StartUp, SizesTheWindowByTheScreen) {
+    Start();
+    EXPECT_EQ(window->width(), std::lround(1024.0 * window->logicalDpiX() / 96.0));
+    EXPECT_EQ(window->height(), std::lround(0.965 * 768.0 * window->logicalDpiY() / 96.0));
+}
+
+TEST_F(StartUp, AWindowThatTheUserResizesKeepsItsControlsWhereTheyAre) {
+    Start();
+    const QRect input = Find("fra_input").geometry();
+    const QRect results = Find("Fra_results").geometry();
+    window->resize(window->width() + 200, window->height() + 100);
+    Settle();
+    EXPECT_GT(window->width(), 1100);
+    EXPECT_EQ(Find("fra_input").geometry(), input);
+    EXPECT_EQ(Find("Fra_results").geometry(), results);
+}
+
+TEST_F(StartUp, AMissingSetupFileGivesNorwegianTextsStandardFactorsAndABoxThatNamesIt) {
+    std::filesystem::remove(folder / "Tarnviksetup.csv");
+    Start_as_is();
+    EXPECT_EQ(Text("lbl_prosjekt"), "Prosjekt navn");
+    EXPECT_FLOAT_EQ(s.gm_T, 1.3F);
+    EXPECT_FLOAT_EQ(s.gm_L, 1.25F);
+    EXPECT_FLOAT_EQ(s.gm_Ke, 1.2F);
+    EXPECT_FLOAT_EQ(s.gm_K, 1.25F);
+    EXPECT_EQ(Text("lbl_gm"), "1.30 ");
+    ASSERT_EQ(boxes.messages.size(), 1U);
+    EXPECT_NE(boxes.messages[0].text.find("Tarnviksetup.csv"), std::string::npos) << boxes.messages[0].text;
+    EXPECT_EQ(boxes.messages[0].style, 48);
+    Answer();
+    Click("Cmd_type(1)"); // the program works
+    EXPECT_EQ(s.Con_type, 2);
+}
+
+TEST_F(StartUp, AMissingMaterialOrProfileFileEndsTheStartWithItsNameAndFolder) {
+    for (const char* file : {"TarnvikMaterial.csv", "TarnvikProfile.csv"}) {
+        const std::string kept = Read_file(folder / file);
+        std::filesystem::remove(folder / file);
+        window =
+            std::make_unique<frmMain>(s, Services{boxes, dialogs, opener, settings, printer, clock}, folder.Path());
+        try {
+            window->Load();
+            FAIL() << "started without " << file;
+        } catch (const DataFileError& error) {
+            EXPECT_NE(error.Text().find(file), std::string::npos) << error.Text();
+            EXPECT_NE(error.Text().find(folder.Path().string()), std::string::npos) << error.Text();
+        }
+        Write_file(folder / file, kept);
+    }
+}
+
+TEST_F(StartUp, AShorterProfileFileLeavesTheListsWithoutASelection) {
+    Write_file(folder / "TarnvikProfile.csv", "Type: ;T;Timber;;\r\n;L;;;\r\n;Ke;;;\r\n;K;;;\r\nStandard:;S;;;\r\n"
+                                              "0;1;2;3;4\r\nId;Type;Standard;b;h\r\nT  48x198;T;S;48;198\r\n");
+    Write_setup_language("Eng");
+    Start_as_is();
+    EXPECT_EQ(Row("cboProf1"), -1);
+    EXPECT_EQ(Row("cboProf2"), -1);
+    Pick("cboProf1", 0);
+    EXPECT_EQ(s.Prof1_index, 0);
+    Pick("cboProf2", 0);
+    EXPECT_EQ(Text("Txt_h2"), "198.0");
+}
+
+} // namespace
+} // namespace tarnvik::test

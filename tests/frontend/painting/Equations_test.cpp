@@ -1,0 +1,194 @@
+// The stored equations: there for every key, inside their room, never distorted, painted as vectors, and in the form
+// that Qt's SVG paints in full.
+#include <gtest/gtest.h>
+
+#include <QBuffer>
+#include <QDir>
+#include <QFile>
+#include <QImage>
+#include <QPainter>
+#include <QPdfWriter>
+#include <QXmlStreamReader>
+
+#include <algorithm>
+#include <optional>
+#include <set>
+#include <string>
+#include <string_view>
+
+#include "frontend/painting/EquationPictures.h"
+
+namespace tarnvik::test {
+namespace {
+
+constexpr double letter = 40.0;
+
+// Smallest rectangle around what is not white.
+QRect Painted(const QImage& image) {
+    int left = image.width(), top = image.height(), right = -1, bottom = -1;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            if (image.pixel(x, y) != qRgb(255, 255, 255)) {
+                left = std::min(left, x);
+                right = std::max(right, x);
+                top = std::min(top, y);
+                bottom = std::max(bottom, y);
+            }
+        }
+    }
+    return {QPoint{left, top}, QPoint{right, bottom}};
+}
+
+// A picture painted into `room` of a white sheet that is larger on all sides.
+QRect Painted_in(std::string_view key, const QRectF& room, double letter_size,
+                 std::optional<double> baseline = std::nullopt) {
+    QImage image{static_cast<int>(room.right()) + 100, static_cast<int>(room.bottom()) + 100, QImage::Format_RGB32};
+    image.fill(Qt::white);
+    QPainter painter{&image};
+    painter.setRenderHint(QPainter::Antialiasing);
+    EXPECT_TRUE(Paint_equation(key, painter, room, letter_size, baseline)) << key;
+    return Painted(image);
+}
+
+TEST(Equations, EveryKeyHasItsSize) {
+    for (const std::string_view key : equation_keys) {
+        const auto size = Equation_size(key, letter);
+        ASSERT_TRUE(size) << key;
+        EXPECT_GT(size->width(), 3.0 * letter) << key;
+        EXPECT_GT(size->height(), letter) << key;
+        EXPECT_EQ(*Equation_size(key, 2.0 * letter), *size * 2.0) << key;
+    }
+}
+
+TEST(Equations, NothingForAnotherKey) {
+    QImage image{50, 50, QImage::Format_RGB32};
+    image.fill(Qt::white);
+    QPainter painter{&image};
+    for (const char* key : {"", "Pic_r_a", "frmDetailed/Pic_r_i", "frmDetailed/Pic_r_", "frmDetailed/pic_eff_bolts"}) {
+        EXPECT_FALSE(Equation_size(key, letter)) << key;
+        EXPECT_FALSE(Paint_equation(key, painter, QRectF{0, 0, 50, 50}, letter)) << key;
+    }
+    EXPECT_FALSE(Painted(image).isValid());
+}
+
+TEST(Equations, LeftAndInTheMiddleOfTheRoom) {
+    for (const std::string_view key : equation_keys) {
+        const QSizeF size = *Equation_size(key, letter);
+        const QRectF room{60.0, 50.0, size.width() + 80.0, size.height() + 60.0};
+        const QRect painted = Painted_in(key, room, letter);
+        ASSERT_TRUE(painted.isValid()) << key;
+        const QRectF expected{QPointF{room.left(), room.top() + 30.0}, size};
+        EXPECT_TRUE(expected.toAlignedRect().contains(painted)) << key;
+        // The files have little margin: a figure's is wider than an equation's.
+        EXPECT_GT(painted.width(), 0.9 * size.width()) << key;
+        EXPECT_GT(painted.height(), 0.8 * size.height()) << key;
+    }
+}
+
+TEST(Equations, OnTheBaselineAsFarAsTheRoomAllows) {
+    const std::string_view key = "frmDetailed/Pic_r_h"; // "0.5" stands on the baseline, "f" goes below it
+    const QRectF room{0.0, 20.0, 400.0, 200.0};
+    const int middle = Painted_in(key, room, letter).top();
+    const int at_120 = Painted_in(key, room, letter, 120.0).top();
+    EXPECT_EQ(Painted_in(key, room, letter, 150.0).top(), at_120 + 30);
+    EXPECT_NEAR(at_120, 120.0 - 0.705 * letter, 1.5); // height of "f" over the baseline
+    EXPECT_NEAR(middle, 120.0 - 0.705 * letter + 10.0, 1.5);
+    EXPECT_GE(Painted_in(key, room, letter, 0.0).top(), 20);
+    EXPECT_LE(Painted_in(key, room, letter, 500.0).bottom(), 220);
+}
+
+TEST(Equations, SmallerButNeverDistortedInASmallRoom) {
+    for (const std::string_view key : equation_keys) {
+        const QSizeF size = *Equation_size(key, letter);
+        const double aspect = size.width() / size.height();
+        const struct {
+            const char* name;
+            QRectF room;
+        } rooms[] = {
+            {"narrow", {10.0, 10.0, size.width() / 2.0, size.height() * 3.0}},
+            {"low", {10.0, 10.0, size.width() * 3.0, size.height() / 2.0}},
+        };
+        for (const auto& row : rooms) {
+            const QRect painted = Painted_in(key, row.room, letter);
+            const QRect full = Painted_in(key, QRectF{10.0, 10.0, size.width(), size.height()}, letter);
+            EXPECT_TRUE(row.room.toAlignedRect().contains(painted)) << key << " " << row.name;
+            // Half a size, to the pixel that an edge may fall into.
+            EXPECT_NEAR(painted.width(), full.width() / 2.0, 1.5) << key << " " << row.name << ", aspect " << aspect;
+            EXPECT_NEAR(painted.height(), full.height() / 2.0, 1.5) << key << " " << row.name << ", aspect " << aspect;
+        }
+    }
+}
+
+TEST(Equations, NothingWithoutRoom) {
+    QImage image{50, 50, QImage::Format_RGB32};
+    image.fill(Qt::white);
+    QPainter painter{&image};
+    EXPECT_TRUE(Paint_equation(equation_keys.front(), painter, QRectF{10, 10, 0, 20}, letter));
+    EXPECT_TRUE(Paint_equation(equation_keys.front(), painter, QRectF{10, 10, 20, -5}, letter));
+    EXPECT_FALSE(Painted(image).isValid());
+}
+
+TEST(Equations, BoltsOfTheFigureAreRound) {
+    const std::string_view key = "Frm_tarn_vik_txt_tverr_brudd/Pic_tverr_brudd_fig";
+    QImage image{2150, 1250, QImage::Format_RGB32};
+    image.fill(Qt::white);
+    QPainter painter{&image};
+    ASSERT_TRUE(Paint_equation(key, painter, QRectF{0, 0, 2150, 1250}, 100.0));
+    // From the middle of the upper bolt outwards as far as its inside is white.
+    const QPoint centre{1050, 300};
+    const auto reach = [&](QPoint step) {
+        int length = 0;
+        while (image.pixel(centre + step * (length + 1)) == qRgb(255, 255, 255)) {
+            ++length;
+        }
+        return length;
+    };
+    const int right = reach({1, 0});
+    EXPECT_NEAR(right, 54, 2);
+    EXPECT_NEAR(reach({-1, 0}), right, 1);
+    EXPECT_NEAR(reach({0, 1}), right, 1);
+    EXPECT_NEAR(reach({0, -1}), right, 1);
+}
+
+TEST(Equations, VectorsInAPdf) {
+    QByteArray pdf;
+    QBuffer file{&pdf};
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    {
+        QPdfWriter writer{&file};
+        writer.setResolution(1200);
+        QPainter painter{&writer};
+        double y = 0.0;
+        for (const std::string_view key : equation_keys) {
+            const QSizeF size = *Equation_size(key, 100.0);
+            Paint_equation(key, painter, {{0.0, y}, size}, 100.0);
+            y += size.height();
+        }
+    }
+    EXPECT_GT(pdf.size(), 10000);
+    EXPECT_FALSE(pdf.contains("/Subtype /Image"));
+}
+
+TEST(Equations, OnlyPathsInTheFiles) {
+    const QDir folder{QStringLiteral(":/tarnvik/equations")};
+    const QStringList files = folder.entryList({QStringLiteral("*.svg")});
+    EXPECT_EQ(files.size(), 13);
+    for (const QString& name : files) {
+        QFile file{folder.filePath(name)};
+        ASSERT_TRUE(file.open(QIODevice::ReadOnly)) << name.toStdString();
+        QXmlStreamReader xml{&file};
+        std::multiset<std::string> elements;
+        while (!xml.atEnd()) {
+            if (xml.readNext() == QXmlStreamReader::StartElement) {
+                elements.insert(xml.name().toString().toStdString());
+            }
+        }
+        EXPECT_FALSE(xml.hasError()) << name.toStdString();
+        EXPECT_EQ(elements.count("svg"), 1U) << name.toStdString();
+        EXPECT_GE(elements.count("path"), 7U) << name.toStdString();
+        EXPECT_EQ(elements.count("path") + 1, elements.size()) << name.toStdString();
+    }
+}
+
+} // namespace
+} // namespace tarnvik::test

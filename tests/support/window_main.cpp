@@ -1,0 +1,98 @@
+// main() of the window's tests: the offscreen platform and a home of its own, so that plain ctest passes anywhere; an
+// unexpected warning of the toolkit fails the test in which it comes.
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <array>
+#include <cstdlib>
+#include <string>
+#include <vector>
+
+#include "calc/Text.h"
+#include "frontend/controls/Style.h"
+#include "tests/support/Fakes.h"
+
+namespace tarnvik::test {
+
+std::vector<std::string>& Warnings() {
+    static std::vector<std::string> warnings;
+    return warnings;
+}
+
+} // namespace tarnvik::test
+
+namespace {
+
+// What the offscreen platform says of itself.
+bool Expected(const QString& text) {
+    return text.startsWith(QLatin1String("This plugin does not support"));
+}
+
+void Keep_message(QtMsgType type, const QMessageLogContext& /*context*/, const QString& text) {
+    if (type != QtDebugMsg && type != QtInfoMsg && !Expected(text)) {
+        tarnvik::test::Warnings().push_back(text.toStdString());
+    }
+    if (type == QtFatalMsg) {
+        std::abort();
+    }
+}
+
+// One screen that the window fits on, of the resolution that QT_FONT_DPI names: the offscreen platform does not heed
+// that variable by itself.
+bool Use_screen(const QTemporaryDir& home) {
+    const int dpi = qEnvironmentVariableIsSet("QT_FONT_DPI") ? qEnvironmentVariableIntValue("QT_FONT_DPI") : 96;
+    const QString path = home.filePath(QStringLiteral("screen.json"));
+    QFile file{path};
+    if (!file.open(QIODevice::WriteOnly)) {
+        return false;
+    }
+    file.write(QStringLiteral(R"({"screens": [{"name": "test", "x": 0, "y": 0, "width": 3840, "height": 2160,
+                               "logicalDpi": %1, "logicalBaseDpi": %1, "dpr": 1}]})")
+                   .arg(dpi)
+                   .toUtf8());
+    qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + QFile::encodeName(path));
+    return true;
+}
+
+class NoWarnings : public testing::EmptyTestEventListener {
+    void OnTestStart(const testing::TestInfo& /*info*/) override { tarnvik::test::Warnings().clear(); }
+    void OnTestEnd(const testing::TestInfo& /*info*/) override {
+        for (const std::string& warning : tarnvik::test::Warnings()) {
+            ADD_FAILURE() << "unexpected warning of the toolkit: " << warning;
+        }
+    }
+};
+
+} // namespace
+
+int main(int argc, char** argv) {
+    qputenv("LANG", "C.UTF-8");
+    qputenv("LC_ALL", "C.UTF-8");
+    qunsetenv("QT_SCALE_FACTOR");
+    qunsetenv("QT_STYLE_OVERRIDE");
+    const QTemporaryDir home;
+    if (!home.isValid()) {
+        return 1;
+    }
+    const QByteArray path = QFile::encodeName(home.path());
+    qputenv("HOME", path);
+    for (const char* name : {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME", "XDG_RUNTIME_DIR"}) {
+        qputenv(name, path);
+    }
+    if (!Use_screen(home)) {
+        return 1;
+    }
+    qInstallMessageHandler(Keep_message);
+    testing::InitGoogleTest(&argc, argv);
+    QApplication application{argc, argv};
+    QApplication::setApplicationName(QStringLiteral("Tarn-Vik"));
+    QApplication::setQuitOnLastWindowClosed(false);
+    tarnvik::Set_looks(application);
+    tarnvik::Set_decimal_sign('.');
+    testing::UnitTest::GetInstance()->listeners().Append(new NoWarnings);
+    return RUN_ALL_TESTS();
+}

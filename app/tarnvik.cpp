@@ -5,10 +5,10 @@
 
 #include "calc/RuntimeFault.h"
 #include "data/Startup.h"
-#include "frontend/controls/Controls.h"
 #include "frontend/controls/Style.h"
 #include "frontend/main/frmMain.h"
 #include "frontend/painting/Icon.h"
+#include "frontend/painting/Texts.h"
 #include "frontend/services/QtServices.h"
 
 namespace {

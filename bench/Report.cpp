@@ -8,8 +8,8 @@
 
 #include "calc/pass/Main_beregn.h"
 #include "data/Startup.h"
-#include "frontend/controls/Controls.h"
 #include "frontend/painting/QtPrintTarget.h"
+#include "frontend/painting/Texts.h"
 #include "report/PrintReport.h"
 #include "report/Recorder.h"
 

@@ -5,6 +5,7 @@
 #include <QKeyEvent>
 #include <QProcess>
 #include <QSet>
+#include <QString>
 
 #include <algorithm>
 #include <chrono>
@@ -14,10 +15,12 @@
 #include <string_view>
 #include <vector>
 
+#include "frontend/controls/Controls.h"
 #include "frontend/controls/Style.h"
 #include "frontend/main/frmMain.h"
 #include "frontend/painting/Icon.h"
 #include "ports/SettingsStore.h"
+#include "session/SystemClock.h"
 
 namespace {
 
@@ -80,6 +83,15 @@ protected:
     }
 };
 
+template <class T> T& Find(const QObject& window, const std::string& name) {
+    T* const found = window.findChild<T*>(QString::fromStdString(name));
+    if (found == nullptr) {
+        std::fprintf(stderr, "no control named %s\n", name.c_str());
+        std::exit(1);
+    }
+    return *found;
+}
+
 double Milliseconds(Clock::duration time) {
     return std::chrono::duration<double, std::milli>(time).count();
 }
@@ -111,15 +123,15 @@ int Measure_window(QApplication& application) {
     window.Load();
     window.activateWindow();
     Settle();
-    window.Find<QAbstractButton>("Opt_bolt_bulldog(1)").setChecked(true);
-    auto& number = window.Find<tarnvik::ListBox>("Comb_ant_bolt");
+    Find<QAbstractButton>(window, "Opt_bolt_bulldog(1)").setChecked(true);
+    auto& number = Find<tarnvik::ListBox>(window, "Comb_ant_bolt");
     number.setCurrentIndex(number.count() - 1); // six bolts
     Settle();
 
     Painted painted;
     application.installEventFilter(&painted);
-    auto& box = window.Find<tarnvik::TextBox>("Txt_last");
-    auto& utilisation = window.Find<QWidget>("Lbl_uf");
+    auto& box = Find<tarnvik::TextBox>(window, "Txt_last");
+    auto& utilisation = Find<QWidget>(window, "Lbl_uf");
     std::vector<double> dirty;
     std::vector<double> whole;
     for (int i = 0; i < presses; ++i) {
@@ -146,17 +158,17 @@ int Measure_window(QApplication& application) {
 
     // Another connection each time: three pictures that were not shown before are composed and painted.
     std::vector<double> pictures;
-    window.Find<QAbstractButton>("Cmd_type(4)").click();
+    Find<QAbstractButton>(window, "Cmd_type(4)").click();
     for (int row = 0; row < number.count(); ++row) {
         number.setCurrentIndex(row);
         for (int type = 0; type < 5; ++type) {
             Settle();
             painted.widgets.clear();
             const auto start = Clock::now();
-            window.Find<QAbstractButton>("Cmd_type(" + std::to_string(type) + ")").click();
+            Find<QAbstractButton>(window, "Cmd_type(" + std::to_string(type) + ")").click();
             Settle();
             pictures.push_back(Milliseconds(Clock::now() - start));
-            if (!painted.widgets.contains(&window.Find<QWidget>("Pic_av_bolter"))) {
+            if (!painted.widgets.contains(&Find<QWidget>(window, "Pic_av_bolter"))) {
                 std::fprintf(stderr, "the sketch was not painted\n");
                 return 1;
             }
@@ -172,7 +184,7 @@ int Start_once(Clock::time_point begun) {
     program.window.Load();
     Painted painted;
     qApp->installEventFilter(&painted);
-    auto& last = program.window.Find<QWidget>("Lbl_uf");
+    auto& last = Find<QWidget>(program.window, "Lbl_uf");
     while (!painted.widgets.contains(&last)) {
         QApplication::processEvents();
     }

@@ -7,8 +7,10 @@
 #include <string>
 #include <string_view>
 
+#include "ports/Clock.h"
 #include "ports/MessageBox.h"
 #include "ports/PrintTarget.h"
+#include "ports/SettingsStore.h"
 
 namespace tarnvik {
 
@@ -73,6 +75,16 @@ public:
     // False where it cannot be opened.
     virtual bool Open_file(const std::string& path) = 0;
     virtual bool Open_link(const std::string& url) = 0;
+};
+
+// All that the window asks for. They outlive it.
+struct Services {
+    BoxService& boxes;
+    FileDialogs& files;
+    DocumentOpener& opener;
+    SettingsStore& settings;
+    PrinterService& printer;
+    Clock& clock;
 };
 
 } // namespace tarnvik

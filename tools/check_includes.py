@@ -25,8 +25,13 @@ ROOMS = {
     "detail": {"calc", "spacing", "report"},
     "session": {"ports", "calc", "calc/pass", "spacing", "data", "report"},
     "check": {"ports", "calc", "calc/pass", "spacing", "data", "report", "detail", "session"},
-    "frontend": {"ports", "calc", "calc/pass", "spacing", "spacing/sketch", "data", "report", "detail", "session"},
-    "app": {"ports", "calc", "data", "session", "check", "frontend"},
+    "frontend/painting": {"ports", "calc", "spacing", "spacing/sketch", "data", "report"},
+    "frontend/controls": {"calc", "detail", "frontend/painting"},
+    "frontend/services": {"ports", "calc", "session", "frontend/painting"},
+    "frontend/dialogs": {"ports", "calc", "data", "detail", "session", "frontend/painting", "frontend/controls"},
+    "frontend/main": {"ports", "calc", "data", "report", "session", "frontend/painting", "frontend/controls",
+                      "frontend/dialogs"},
+    "app": {"calc", "data", "check", "frontend/painting", "frontend/controls", "frontend/services", "frontend/main"},
 }
 
 # Rooms that get by with the standard library and, in data, the calls of the system that saving needs.

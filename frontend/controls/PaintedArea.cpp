@@ -7,8 +7,8 @@
 #include <cmath>
 #include <numeric>
 
-#include "frontend/controls/Controls.h"
-#include "frontend/controls/Style.h"
+#include "frontend/controls/Areas.h"
+#include "frontend/painting/Texts.h"
 
 namespace tarnvik {
 
@@ -73,7 +73,7 @@ QFont PaintedArea::Font_of(const TextLook& look) const {
     return text_font;
 }
 
-std::vector<PaintedArea::Placed> PaintedArea::Place() const {
+std::vector<PaintedArea::Placed> PaintedArea::Place_texts() const {
     const double x_unit = width() / 100.0;
     const double y_unit = height() / 100.0;
     std::vector<Placed> placed;
@@ -130,7 +130,7 @@ std::vector<PaintedArea::Placed> PaintedArea::Place() const {
 void PaintedArea::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter{this};
     painter.fillRect(rect(), Qt::white);
-    const std::vector<Placed> placed = Place();
+    const std::vector<Placed> placed = Place_texts();
     for (std::size_t i = 0; i < placed.size(); ++i) {
         const PaintedText& text = painting_.texts[i];
         painter.setFont(Font_of(text.look));

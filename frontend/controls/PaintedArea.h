@@ -30,7 +30,7 @@ public:
         double narrowing{1.0};   // horizontal scale of what is drawn: a text ends before the next one on its line
         std::vector<QRectF> ink; // what its words cover
     };
-    [[nodiscard]] std::vector<Placed> Place() const;
+    [[nodiscard]] std::vector<Placed> Place_texts() const;
 
 protected:
     void paintEvent(QPaintEvent* event) override;

@@ -1,13 +1,12 @@
 #include "frontend/controls/Style.h"
 
 #include <QApplication>
-#include <QFontDatabase>
 #include <QPalette>
 #include <QStyleFactory>
 #include <QStyleOption>
 #include <QWidget>
 
-#include <cmath>
+#include "frontend/painting/Texts.h"
 
 namespace tarnvik {
 
@@ -18,10 +17,6 @@ double Dpi(const QWidget* widget) {
 }
 
 } // namespace
-
-int Scaled(double pixels_at_96, double dots_per_inch) {
-    return static_cast<int>(std::lround(pixels_at_96 * dots_per_inch / 96.0));
-}
 
 TarnvikStyle::TarnvikStyle() : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion"))) {}
 
@@ -64,20 +59,6 @@ int TarnvikStyle::styleHint(StyleHint hint, const QStyleOption* option, const QW
         return 0; // no button of the program has one
     }
     return QProxyStyle::styleHint(hint, option, widget, data);
-}
-
-QFont Text_font(double points) {
-    static const QString family = [] {
-        for (const char* name : {"Tahoma", "Liberation Sans"}) {
-            if (QFontDatabase::hasFamily(QString::fromLatin1(name))) {
-                return QString::fromLatin1(name);
-            }
-        }
-        return QStringLiteral("sans-serif");
-    }();
-    QFont font{family};
-    font.setPointSizeF(points);
-    return font;
 }
 
 void Set_looks(QApplication& application) {

@@ -1,7 +1,7 @@
 // The looks of the program: Fusion with a light palette, narrow combo arrows and indicators, an 8-point sans-serif.
 #pragma once
 
-#include <QFont>
+#include <QColor>
 #include <QProxyStyle>
 
 class QApplication;
@@ -11,11 +11,8 @@ namespace tarnvik {
 // Style, palette and font of the whole application; to be called once, before the first window.
 void Set_looks(QApplication& application);
 
-// "Tahoma" where it is installed, otherwise "Liberation Sans" or what the system offers.
-QFont Text_font(double points = 8.0);
-
-// Pixels for a length given at 96 dots per inch.
-int Scaled(double pixels_at_96, double dots_per_inch);
+// The rim of frames and picture areas.
+inline const QColor border_colour{0xc4, 0xc4, 0xc4};
 
 class TarnvikStyle : public QProxyStyle {
     Q_OBJECT

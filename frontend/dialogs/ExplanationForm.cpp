@@ -9,8 +9,8 @@
 
 #include "frontend/controls/Controls.h"
 #include "frontend/controls/PaintedArea.h"
-#include "frontend/controls/Style.h"
-#include "frontend/main/frmMain.h"
+#include "frontend/painting/Texts.h"
+#include "session/Session.h"
 
 namespace tarnvik {
 
@@ -28,8 +28,8 @@ constexpr double below_text = 11.0; // pixels at 96 dots per inch
 
 } // namespace
 
-ExplanationForm::ExplanationForm(frmMain& window, QWidget& parent, std::string_view name)
-    : QDialog(&parent), window_(window), explanation_(Named(name)) {
+ExplanationForm::ExplanationForm(QWidget& window, QWidget& parent, const Session& session, std::string_view name)
+    : QDialog(&parent), window_(window), session_(session), explanation_(Named(name)) {
     setObjectName(Q(explanation_.name));
     QWidget* holder = this;
     if (!explanation_.frame.empty()) {
@@ -69,7 +69,7 @@ void ExplanationForm::Lay_out() {
 
 void ExplanationForm::showEvent(QShowEvent* event) {
     Lay_out();
-    Painting painting = Paint_explanation(explanation_, window_.State());
+    Painting painting = Paint_explanation(explanation_, session_.State());
     setWindowTitle(Q(painting.caption));
     findChild<PaintedArea*>(Q(explanation_.text_control))->Set_painting(std::move(painting));
     QDialog::showEvent(event);

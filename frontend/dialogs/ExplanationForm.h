@@ -11,15 +11,15 @@ class QShowEvent;
 
 namespace tarnvik {
 
-class frmMain;
+class Session;
 
 class ExplanationForm : public QDialog {
     Q_OBJECT
 
 public:
-    // `name` is a window of explanation_windows; throws std::logic_error where there is none of that name. `parent` is
-    // the window that opens it.
-    ExplanationForm(frmMain& window, QWidget& parent, std::string_view name);
+    // `name` is a window of explanation_windows; throws std::logic_error where there is none of that name. `window` is
+    // the main window, which gives the size and the place, `parent` the one that opens it.
+    ExplanationForm(QWidget& window, QWidget& parent, const Session& session, std::string_view name);
 
 protected:
     void showEvent(QShowEvent* event) override;
@@ -27,7 +27,8 @@ protected:
 private:
     void Lay_out();
 
-    frmMain& window_;
+    QWidget& window_;
+    const Session& session_;
     const ExplanationWindow& explanation_;
 };
 

@@ -8,9 +8,9 @@
 #include <string>
 
 #include "frontend/controls/Controls.h"
-#include "frontend/controls/Style.h"
 #include "frontend/dialogs/ExplanationForm.h"
-#include "frontend/main/frmMain.h"
+#include "frontend/painting/Texts.h"
+#include "session/Session.h"
 
 namespace tarnvik {
 
@@ -25,53 +25,48 @@ QString Indexed(const char* name, int index) {
 
 } // namespace
 
-Frm_tarn_vik_fak_klass::Frm_tarn_vik_fak_klass(frmMain& window) : QDialog(&window), window_(window) {
+Frm_tarn_vik_fak_klass::Frm_tarn_vik_fak_klass(QWidget& window, Session& session)
+    : QDialog(&window), window_(window), session_(session) {
     setObjectName(QStringLiteral("Frm_tarn_vik_fak_klass"));
     auto* load = new Frame{this};
     load->setObjectName(QStringLiteral("Fra_lastvar"));
     auto* service = new Frame{this};
     service->setObjectName(QStringLiteral("Fra_klimaklasse"));
+    Add_options(*load, "Opt_Lastvarighet", load_classes, false, &ConnectionValues::Lastvar);
+    Add_help(*load, "Cmd_lastvar", "Explanation of the load-duration classes", "frm_tarn_vik_lastvarighet");
+    Add_options(*service, "Opt_klimaklasse", service_classes, true, &ConnectionValues::Klima);
+    Add_help(*service, "Cmd_klima", "Explanation of the service classes", "frm_tarn_vik_klima");
+    auto* ok = new QPushButton{QStringLiteral("OK"), this};
+    ok->setObjectName(QStringLiteral("Cmd_ok"));
+    ok->setAutoDefault(false);
+    ok->setAccessibleName(QStringLiteral("OK"));
+    connect(ok, &QAbstractButton::clicked, this, &QDialog::accept);
+}
 
-    const auto option = [](Frame* parent, const char* name, int index, const QString& caption) {
-        auto* made = new Option{caption, parent};
-        made->setObjectName(Indexed(name, index));
-        return made;
-    };
-    const auto button = [](QWidget* parent, const char* name, const QString& caption, const char* accessible) {
-        auto* made = new QPushButton{caption, parent};
-        made->setObjectName(QLatin1String(name));
-        made->setAutoDefault(false);
-        made->setAccessibleName(QLatin1String(accessible));
-        return made;
-    };
-    for (int i = 0; i < load_classes; ++i) {
-        connect(option(load, "Opt_Lastvarighet", i, {}), &QAbstractButton::toggled, this, [this, i](bool selected) {
-            if (selected && !window_.State().Loading) {
-                window_.State().Lastvar = static_cast<std::int16_t>(i + 1);
-                window_.Recalculate();
+// The options of the classes 1 to `count`; those that are not numbered get their captions with the language.
+void Frm_tarn_vik_fak_klass::Add_options(Frame& frame, const char* name, int count, bool numbered,
+                                         std::int16_t ConnectionValues::*value) {
+    for (int i = 0; i < count; ++i) {
+        auto* option = new Option{numbered ? QString::number(i + 1) : QString{}, &frame};
+        option->setObjectName(Indexed(name, i));
+        connect(option, &QAbstractButton::toggled, this, [this, value, i](bool selected) {
+            if (selected && !session_.State().Loading) {
+                session_.State().*value = static_cast<std::int16_t>(i + 1);
+                session_.Recalculate();
             }
         });
     }
-    const auto on_help = [this](const QPushButton* from, const char* name) {
-        connect(from, &QAbstractButton::clicked, this, [this, name] {
-            ExplanationForm explanation{window_, *this, name};
-            explanation.exec();
-        });
-    };
-    on_help(button(load, "Cmd_lastvar", QStringLiteral("?"), "Explanation of the load-duration classes"),
-            "frm_tarn_vik_lastvarighet");
-    for (int i = 0; i < service_classes; ++i) {
-        connect(option(service, "Opt_klimaklasse", i, QString::number(i + 1)), &QAbstractButton::toggled, this,
-                [this, i](bool selected) {
-                    if (selected && !window_.State().Loading) {
-                        window_.State().Klima = static_cast<std::int16_t>(i + 1);
-                        window_.Recalculate();
-                    }
-                });
-    }
-    on_help(button(service, "Cmd_klima", QStringLiteral("?"), "Explanation of the service classes"),
-            "frm_tarn_vik_klima");
-    connect(button(this, "Cmd_ok", QStringLiteral("OK"), "OK"), &QAbstractButton::clicked, this, &QDialog::accept);
+}
+
+void Frm_tarn_vik_fak_klass::Add_help(Frame& frame, const char* name, const char* accessible, const char* explanation) {
+    auto* help = new QPushButton{QStringLiteral("?"), &frame};
+    help->setObjectName(QLatin1String(name));
+    help->setAutoDefault(false);
+    help->setAccessibleName(QLatin1String(accessible));
+    connect(help, &QAbstractButton::clicked, this, [this, explanation] {
+        ExplanationForm window{window_, *this, session_, explanation};
+        window.exec();
+    });
 }
 
 QAbstractButton* Frm_tarn_vik_fak_klass::Button(std::string_view name) const {
@@ -136,7 +131,7 @@ void Frm_tarn_vik_fak_klass::Lay_out() {
 
 void Frm_tarn_vik_fak_klass::showEvent(QShowEvent* event) {
     Lay_out();
-    Select_classes(window_.State().Lastvar, window_.State().Klima);
+    Select_classes(session_.State().Lastvar, session_.State().Klima);
     QDialog::showEvent(event);
 }
 

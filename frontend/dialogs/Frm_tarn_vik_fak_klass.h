@@ -3,20 +3,25 @@
 
 #include <QDialog>
 
+#include <cstdint>
 #include <string_view>
+
+#include "calc/GlobalParameter.h"
 
 class QAbstractButton;
 class QShowEvent;
 
 namespace tarnvik {
 
-class frmMain;
+class Frame;
+class Session;
 
 class Frm_tarn_vik_fak_klass : public QDialog {
     Q_OBJECT
 
 public:
-    explicit Frm_tarn_vik_fak_klass(frmMain& window);
+    // `window` is the main window, which gives the size and the place.
+    Frm_tarn_vik_fak_klass(QWidget& window, Session& session);
 
     // Selects the options of the two classes; a class without an option selects none.
     void Select_classes(int Lastvar, int Klima);
@@ -28,10 +33,13 @@ protected:
     void showEvent(QShowEvent* event) override;
 
 private:
+    void Add_options(Frame& frame, const char* name, int count, bool numbered, std::int16_t ConnectionValues::*value);
+    void Add_help(Frame& frame, const char* name, const char* accessible, const char* explanation);
     void Lay_out();
     [[nodiscard]] QAbstractButton* Button(std::string_view name) const;
 
-    frmMain& window_;
+    QWidget& window_;
+    Session& session_;
 };
 
 } // namespace tarnvik

@@ -9,10 +9,8 @@
 
 #include <array>
 
-#include "frontend/controls/Controls.h"
-#include "frontend/controls/Style.h"
-#include "frontend/main/frmMain.h"
 #include "frontend/painting/Icon.h"
+#include "frontend/painting/Texts.h"
 
 namespace tarnvik {
 
@@ -32,9 +30,15 @@ constexpr std::array links{
 
 } // namespace
 
-frmAbout::frmAbout(frmMain& window) : QDialog(&window), window_(window) {
+frmAbout::frmAbout(QWidget& window, bool english, const AboutTexts& texts, DocumentOpener& opener, MessageBox& boxes)
+    : QDialog(&window), opener_(opener), boxes_(boxes) {
     setObjectName(QStringLiteral("frmAbout"));
-    setWindowTitle(Is_english(window.State()) ? QStringLiteral("About Tarnvik") : QStringLiteral("Om Tarnvik"));
+    setWindowTitle(english ? QStringLiteral("About Tarnvik") : QStringLiteral("Om Tarnvik"));
+    Add_lines(*Add_icon(), texts);
+}
+
+// The icon at the left; the room beside it is for the lines.
+QBoxLayout* frmAbout::Add_icon() {
     const double dpi = logicalDpiX();
     auto* all = new QHBoxLayout{this};
     const int margin = Scaled(24, dpi);
@@ -48,7 +52,12 @@ frmAbout::frmAbout(frmMain& window) : QDialog(&window), window_(window) {
     auto* lines = new QVBoxLayout;
     lines->setSpacing(Scaled(6, dpi));
     all->addLayout(lines);
-    const auto add = [this, lines](const char* name, const QString& text, double points, bool bold, bool link) {
+    all->setSizeConstraint(QLayout::SetFixedSize);
+    return lines;
+}
+
+void frmAbout::Add_lines(QBoxLayout& lines, const AboutTexts& texts) {
+    const auto add = [this, &lines](const char* name, const QString& text, double points, bool bold, bool link) {
         auto* label = new QLabel{text, this};
         label->setObjectName(QLatin1String(name));
         QFont font = Text_font(points);
@@ -59,26 +68,25 @@ frmAbout::frmAbout(frmMain& window) : QDialog(&window), window_(window) {
             palette.setColor(QPalette::WindowText, link_colour);
             label->setPalette(palette);
         }
-        lines->addWidget(label);
+        lines.addWidget(label);
         return label;
     };
     add("Lbl_name", QStringLiteral("Tarnvik"), 18.0, true, true);
-    add("Lbl_title", Q(window.About().title), 10.0, false, false);
-    add("Lbl_version", Q(window.About().version), 8.0, false, false);
+    add("Lbl_title", Q(texts.title), 10.0, false, false);
+    add("Lbl_version", Q(texts.version), 8.0, false, false);
     add("Lbl_rights", QStringLiteral("Tarnvik developers"), 8.0, false, false);
     for (const Link& link : links) {
         QLabel* label = add(link.name, QLatin1String(link.text), 8.0, false, true);
         label->setCursor(Qt::PointingHandCursor);
     }
-    all->setSizeConstraint(QLayout::SetFixedSize);
 }
 
 void frmAbout::mousePressEvent(QMouseEvent* event) {
     for (const Link& link : links) {
         const auto* label = findChild<QLabel*>(QLatin1String(link.name));
         if (label->geometry().contains(event->pos())) {
-            if (!window_.Platform().opener.Open_link(link.address)) {
-                window_.Platform().boxes.Show(std::string{"Can't open "} + link.address, box_exclamation);
+            if (!opener_.Open_link(link.address)) {
+                boxes_.Show(std::string{"Can't open "} + link.address, box_exclamation);
             }
             return;
         }

@@ -3,22 +3,31 @@
 
 #include <QDialog>
 
-namespace tarnvik {
+#include "frontend/dialogs/AboutTexts.h"
+#include "ports/MessageBox.h"
+#include "ports/Services.h"
 
-class frmMain;
+class QBoxLayout;
+class QLabel;
+
+namespace tarnvik {
 
 class frmAbout : public QDialog {
     Q_OBJECT
 
 public:
-    explicit frmAbout(frmMain& window);
+    frmAbout(QWidget& window, bool english, const AboutTexts& texts, DocumentOpener& opener, MessageBox& boxes);
 
 protected:
     void mousePressEvent(QMouseEvent* event) override;
     void showEvent(QShowEvent* event) override;
 
 private:
-    frmMain& window_;
+    QBoxLayout* Add_icon();
+    void Add_lines(QBoxLayout& lines, const AboutTexts& texts);
+
+    DocumentOpener& opener_;
+    MessageBox& boxes_;
 };
 
 } // namespace tarnvik

@@ -6,10 +6,11 @@
 #include <cmath>
 
 #include "detail/Detailed_calc.h"
+#include "frontend/controls/Areas.h"
 #include "frontend/controls/Controls.h"
 #include "frontend/controls/PaintedArea.h"
-#include "frontend/controls/Style.h"
-#include "frontend/main/frmMain.h"
+#include "frontend/painting/Texts.h"
+#include "session/Session.h"
 
 namespace tarnvik {
 
@@ -19,7 +20,8 @@ constexpr double below_frame = 165.0 / 15.0; // twips to pixels at 96 dots per i
 
 } // namespace
 
-frmDetailed::frmDetailed(frmMain& window) : QDialog(&window), window_(window) {
+frmDetailed::frmDetailed(QWidget& window, const Session& session)
+    : QDialog(&window), window_(window), session_(session) {
     setObjectName(QStringLiteral("frmDetailed"));
     auto* frame = new Frame{this};
     frame->setObjectName(QStringLiteral("Fra_detailed"));
@@ -67,7 +69,7 @@ void frmDetailed::Lay_out() {
 
 void frmDetailed::showEvent(QShowEvent* event) {
     Lay_out();
-    Painting painting = Paint_detailed(window_.State());
+    Painting painting = Paint_detailed(session_.State());
     setWindowTitle(Q(painting.caption));
     findChild<PaintedArea*>(QStringLiteral("Pic_detailed"))->Set_painting(std::move(painting));
     QDialog::showEvent(event);

@@ -7,13 +7,14 @@ class QShowEvent;
 
 namespace tarnvik {
 
-class frmMain;
+class Session;
 
 class frmDetailed : public QDialog {
     Q_OBJECT
 
 public:
-    explicit frmDetailed(frmMain& window);
+    // `window` is the main window: the calculations stand in its middle, as high as it is.
+    frmDetailed(QWidget& window, const Session& session);
 
 protected:
     void showEvent(QShowEvent* event) override;
@@ -21,7 +22,8 @@ protected:
 private:
     void Lay_out();
 
-    frmMain& window_;
+    QWidget& window_;
+    const Session& session_;
 };
 
 } // namespace tarnvik

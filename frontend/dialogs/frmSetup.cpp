@@ -7,12 +7,15 @@
 #include <QVBoxLayout>
 
 #include <array>
+#include <utility>
 
 #include "calc/RuntimeFault.h"
 #include "data/SetupFile.h"
 #include "frontend/controls/Controls.h"
-#include "frontend/controls/Style.h"
-#include "frontend/main/frmMain.h"
+#include "frontend/dialogs/Editing.h"
+#include "frontend/painting/Texts.h"
+#include "ports/MessageBox.h"
+#include "session/Session.h"
 
 namespace tarnvik {
 
@@ -38,27 +41,33 @@ constexpr std::array captions{
 };
 // clang-format on
 
-struct Factor {
+} // namespace
+
+struct FactorRow {
     const char* label;
     const char* box;
     float ConnectionValues::*value;
 };
 
+namespace {
+
+constexpr double title_height = 22.0; // room of a frame's title, pixels at 96 dots per inch
+
 // The Enter key goes round this ring.
 constexpr std::array factors{
-    Factor{"Lbl_gamma_timb", "Txt_gamma_timb", &ConnectionValues::gm_T},
-    Factor{"Lbl_gamma_lam", "Txt_gamma_lam", &ConnectionValues::gm_L},
-    Factor{"Lbl_gamma_kerto", "Txt_gamma_kerto", &ConnectionValues::gm_Ke},
-    Factor{"Lbl_gamma_k_bjelke", "Txt_gamma_k_bjelke", &ConnectionValues::gm_K},
+    FactorRow{"Lbl_gamma_timb", "Txt_gamma_timb", &ConnectionValues::gm_T},
+    FactorRow{"Lbl_gamma_lam", "Txt_gamma_lam", &ConnectionValues::gm_L},
+    FactorRow{"Lbl_gamma_kerto", "Txt_gamma_kerto", &ConnectionValues::gm_Ke},
+    FactorRow{"Lbl_gamma_k_bjelke", "Txt_gamma_k_bjelke", &ConnectionValues::gm_K},
 };
 
 } // namespace
 
-frmSetup::frmSetup(frmMain& window) : QDialog(&window), window_(window) {
+frmSetup::frmSetup(QWidget& window, Session& session, Editing& editing)
+    : QDialog(&window), session_(session), editing_(editing) {
     setObjectName(QStringLiteral("frmSetup"));
     const double dpi = logicalDpiX();
     const int gap = Scaled(10, dpi);
-    const int title = Scaled(22, dpi);
 
     auto* annex = new Frame{this};
     annex->setObjectName(QStringLiteral("Fra_set_annex"));
@@ -66,95 +75,116 @@ frmSetup::frmSetup(frmMain& window) : QDialog(&window), window_(window) {
     language->setObjectName(QStringLiteral("Fra_language"));
     auto* part = new Frame{annex};
     part->setObjectName(QStringLiteral("Fra_part_fac"));
+    Add_languages(*language);
+    Add_factors(*part);
 
-    const auto button = [dpi](QWidget* parent, const char* name, const QString& caption) {
-        auto* made = new QPushButton{caption, parent};
-        made->setObjectName(QLatin1String(name));
-        made->setAutoDefault(false);
-        made->setMinimumSize(Scaled(84, dpi), Scaled(24, dpi));
-        return made;
-    };
+    auto* both = new QHBoxLayout{annex};
+    both->setContentsMargins(gap, Scaled(title_height, dpi), gap, gap);
+    both->setSpacing(gap);
+    both->addWidget(language);
+    both->addWidget(part);
 
-    auto* languages = new QVBoxLayout{language};
-    languages->setContentsMargins(gap, title, gap, gap);
+    auto* all = new QVBoxLayout{this};
+    all->setContentsMargins(gap, gap, gap, gap);
+    all->setSpacing(gap);
+    all->addWidget(annex);
+    Add_commands();
+    all->setSizeConstraint(QLayout::SetFixedSize);
+
+    ConnectionState& s = session_.State();
+    const bool loading = std::exchange(s.Loading, true);
+    Write_captions();
+    Fill_factors();
+    s.Loading = loading;
+}
+
+QPushButton* frmSetup::Add_button(QWidget& parent, const char* name, const QString& caption) const {
+    const double dpi = logicalDpiX();
+    auto* made = new QPushButton{caption, &parent};
+    made->setObjectName(QLatin1String(name));
+    made->setAutoDefault(false);
+    made->setMinimumSize(Scaled(84, dpi), Scaled(24, dpi));
+    return made;
+}
+
+void frmSetup::Add_languages(Frame& frame) {
+    const double dpi = logicalDpiX();
+    const int gap = Scaled(10, dpi);
+    auto* languages = new QVBoxLayout{&frame};
+    languages->setContentsMargins(gap, Scaled(title_height, dpi), gap, gap);
     languages->setSpacing(gap);
-    QPushButton* english = button(language, "Cmd_eng", QStringLiteral("English"));
-    QPushButton* norwegian = button(language, "Cmd_nor", QStringLiteral("Norsk"));
+    QPushButton* english = Add_button(frame, "Cmd_eng", QStringLiteral("English"));
+    QPushButton* norwegian = Add_button(frame, "Cmd_nor", QStringLiteral("Norsk"));
     languages->addWidget(english);
     languages->addWidget(norwegian);
     languages->addStretch();
+    connect(english, &QAbstractButton::clicked, this, [this] { Set_language("Eng"); });
+    connect(norwegian, &QAbstractButton::clicked, this, [this] { Set_language("Nor"); });
+}
 
-    auto* grid = new QGridLayout{part};
-    grid->setContentsMargins(gap, title, gap, gap);
+void frmSetup::Add_factors(Frame& frame) {
+    const double dpi = logicalDpiX();
+    const int gap = Scaled(10, dpi);
+    auto* grid = new QGridLayout{&frame};
+    grid->setContentsMargins(gap, Scaled(title_height, dpi), gap, gap);
     grid->setSpacing(gap);
     for (std::size_t i = 0; i < factors.size(); ++i) {
-        auto* label = new QLabel{part};
+        auto* label = new QLabel{&frame};
         label->setObjectName(QLatin1String(factors[i].label));
-        auto* box = new TextBox{part};
+        auto* box = new TextBox{&frame};
         box->setObjectName(QLatin1String(factors[i].box));
         box->setFixedSize(Scaled(60, dpi), Scaled(19, dpi));
         label->setBuddy(box);
         const int row = static_cast<int>(i);
         grid->addWidget(label, row, 0);
         grid->addWidget(box, row, 1);
-        connect(box, &TextBox::Got_focus, this, [this, box] {
-            if (!window_.State().Loading && !window_.Refusing()) {
-                window_.Enter_box(*box);
-            }
-        });
-        connect(box, &TextBox::Lost_focus, this, [this, box, row] { Leave_factor(*box, row); });
-        const char* next = factors[(i + 1) % factors.size()].box;
-        connect(box, &TextBox::Enter_pressed, this,
-                [this, next] { findChild<TextBox*>(QLatin1String(next))->setFocus(Qt::TabFocusReason); });
+        Connect_factor(*box, factors[i], factors[(i + 1) % factors.size()].box);
     }
+}
 
-    auto* both = new QHBoxLayout{annex};
-    both->setContentsMargins(gap, title, gap, gap);
-    both->setSpacing(gap);
-    both->addWidget(language);
-    both->addWidget(part);
+void frmSetup::Connect_factor(TextBox& box, const FactorRow& factor, const char* next) {
+    connect(&box, &TextBox::Got_focus, this, [this, &box] {
+        if (!session_.State().Loading && !editing_.Refusing()) {
+            editing_.Enter_box(box);
+        }
+    });
+    connect(&box, &TextBox::Lost_focus, this, [this, &box, &factor] { Leave_factor(box, factor); });
+    connect(&box, &TextBox::Enter_pressed, this,
+            [this, next] { findChild<TextBox*>(QLatin1String(next))->setFocus(Qt::TabFocusReason); });
+}
 
-    QPushButton* save = button(this, "Cmd_save", {});
-    QPushButton* ok = button(this, "Cmd_ok", QStringLiteral("OK"));
+void frmSetup::Add_commands() {
+    QPushButton* save = Add_button(*this, "Cmd_save", {});
+    QPushButton* ok = Add_button(*this, "Cmd_ok", QStringLiteral("OK"));
     auto* buttons = new QHBoxLayout;
     buttons->addStretch();
     buttons->addWidget(save);
     buttons->addWidget(ok);
-
-    auto* all = new QVBoxLayout{this};
-    all->setContentsMargins(gap, gap, gap, gap);
-    all->setSpacing(gap);
-    all->addWidget(annex);
-    all->addLayout(buttons);
-    all->setSizeConstraint(QLayout::SetFixedSize);
-
-    ConnectionState& s = window_.State();
-    const bool loading = s.Loading;
-    s.Loading = true;
-    Write_captions();
-    for (const Factor& factor : factors) {
-        findChild<TextBox*>(QLatin1String(factor.box))->setText(Q(Format(s.*factor.value, "0.00")));
-    }
-    s.Loading = loading;
-
-    connect(english, &QAbstractButton::clicked, this, [this] { Set_language("Eng"); });
-    connect(norwegian, &QAbstractButton::clicked, this, [this] { Set_language("Nor"); });
+    static_cast<QBoxLayout*>(layout())->addLayout(buttons);
+    connect(save, &QAbstractButton::clicked, this, &frmSetup::Save);
     connect(ok, &QAbstractButton::clicked, this, [this] {
-        State_to_setup(window_.State());
-        window_.Recalculate();
+        State_to_setup(session_.State());
+        session_.Recalculate();
         accept();
-    });
-    connect(save, &QAbstractButton::clicked, this, [this] {
-        State_to_setup(window_.State());
-        try {
-            Write_setup(window_.State().Setup, window_.App_path());
-        } catch (const RuntimeFault&) { // NOLINT(bugprone-empty-catch): a failed statement of the writer is skipped
-        }
     });
 }
 
+void frmSetup::Save() {
+    State_to_setup(session_.State());
+    try {
+        Write_setup(session_.State().Setup, session_.Folder());
+    } catch (const RuntimeFault&) { // NOLINT(bugprone-empty-catch): a failed statement of the writer is skipped
+    }
+}
+
+void frmSetup::Fill_factors() {
+    for (const FactorRow& factor : factors) {
+        findChild<TextBox*>(QLatin1String(factor.box))->setText(Q(Format(session_.State().*factor.value, "0.00")));
+    }
+}
+
 void frmSetup::Write_captions() {
-    const bool english = Is_english(window_.State());
+    const bool english = Is_english(session_.State());
     for (const CaptionOf& row : captions) {
         const QString text = Q(english ? row.english : row.norwegian);
         const QString name = QLatin1String(row.control);
@@ -171,29 +201,28 @@ void frmSetup::Write_captions() {
 }
 
 void frmSetup::Set_language(const char* Lang) {
-    window_.State().Lang = Lang;
+    session_.State().Lang = Lang;
     Write_captions();
-    window_.Write_language();
-    window_.Refill_bulldog();
+    emit Language_chosen();
 }
 
-void frmSetup::Leave_factor(TextBox& box, int factor) {
-    ConnectionState& s = window_.State();
-    if (s.Loading || window_.Refusing() || !isVisible()) {
+void frmSetup::Leave_factor(TextBox& box, const FactorRow& factor) {
+    ConnectionState& s = session_.State();
+    if (s.Loading || editing_.Refusing() || !isVisible()) {
         return;
     }
     try {
         const float value = Str_to_num(U(box.text()));
-        s.*factors[static_cast<std::size_t>(factor)].value = value;
+        s.*factor.value = value;
         box.setText(Q(Format(value, "0.00"))); // before the test
         if (!(value > 0.1F)) {
-            window_.Refuse(box, "Number is <= 0.1 ", box_plain);
+            editing_.Refuse(box, "Number is <= 0.1 ", box_plain, true);
             return;
         }
         box.Set_back(colour_white_box);
-        window_.Main_beregn();
+        session_.Main_beregn();
     } catch (const RuntimeFault& fault) {
-        window_.Input_error(box, fault.number);
+        editing_.Input_error(box, fault.number);
     }
 }
 

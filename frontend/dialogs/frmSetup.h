@@ -3,23 +3,40 @@
 
 #include <QDialog>
 
+class QPushButton;
+
 namespace tarnvik {
 
-class frmMain;
+class Editing;
+class Frame;
+class Session;
 class TextBox;
+struct FactorRow;
 
 class frmSetup : public QDialog {
     Q_OBJECT
 
 public:
-    explicit frmSetup(frmMain& window);
+    frmSetup(QWidget& window, Session& session, Editing& editing);
+
+signals:
+    // The state has another language; the captions of this window are written already.
+    void Language_chosen();
 
 private:
+    QPushButton* Add_button(QWidget& parent, const char* name, const QString& caption) const;
+    void Add_languages(Frame& frame);
+    void Add_factors(Frame& frame);
+    void Connect_factor(TextBox& box, const FactorRow& factor, const char* next);
+    void Add_commands();
     void Write_captions();
+    void Fill_factors();
     void Set_language(const char* Lang);
-    void Leave_factor(TextBox& box, int factor);
+    void Leave_factor(TextBox& box, const FactorRow& factor);
+    void Save();
 
-    frmMain& window_;
+    Session& session_;
+    Editing& editing_;
 };
 
 } // namespace tarnvik

@@ -8,6 +8,7 @@
 #include <string_view>
 
 #include "calc/GlobalParameter.h"
+#include "frontend/dialogs/AboutTexts.h"
 
 namespace tarnvik {
 
@@ -27,11 +28,6 @@ struct MemberRow {
 
 // The row of a type 1 to 5, or null.
 const MemberRow* Member_names(int Con_type, bool english);
-
-// Lines of the About window.
-struct AboutTexts {
-    std::string title, version;
-};
 
 // Writes a caption by the name of its control.
 using SetCaption = std::function<void(std::string_view control, std::string_view caption)>;

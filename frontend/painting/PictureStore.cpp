@@ -8,9 +8,8 @@
 #include <deque>
 #include <optional>
 
-#include "frontend/controls/Controls.h"
-#include "frontend/controls/Style.h"
 #include "frontend/painting/EquationPictures.h"
+#include "frontend/painting/Texts.h"
 #include "spacing/Pictures.h"
 #include "spacing/sketch/Drawing.h"
 #include "spacing/sketch/Sketch.h"

@@ -11,9 +11,9 @@
 
 #include "calc/RuntimeFault.h"
 #include "data/SafeWrite.h"
-#include "frontend/controls/Controls.h"
 #include "frontend/painting/EquationPictures.h"
 #include "frontend/painting/PictureStore.h"
+#include "frontend/painting/Texts.h"
 #include "report/PrintReport.h"
 
 namespace tarnvik {

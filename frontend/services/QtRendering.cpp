@@ -9,9 +9,9 @@
 #include <fstream>
 
 #include "calc/RuntimeFault.h"
-#include "frontend/controls/Controls.h"
 #include "frontend/painting/PictureStore.h"
 #include "frontend/painting/QtPrintTarget.h"
+#include "frontend/painting/Texts.h"
 #include "frontend/services/QtServices.h"
 
 namespace tarnvik {

@@ -16,8 +16,8 @@
 
 #include <algorithm>
 
-#include "frontend/controls/Controls.h"
 #include "frontend/painting/QtPrintTarget.h"
+#include "frontend/painting/Texts.h"
 #include "session/SystemClock.h"
 
 namespace tarnvik {

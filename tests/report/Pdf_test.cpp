@@ -12,6 +12,7 @@
 
 #include "frontend/controls/Controls.h"
 #include "frontend/painting/QtPrintTarget.h"
+#include "frontend/painting/Texts.h"
 #include "tests/data/Support.h"
 #include "tests/report/Support.h"
 #include "tests/support/Fakes.h"

@@ -32,7 +32,8 @@ TEST_F(PrintCommand, prints_the_report_of_the_state_and_ends_the_job_twice) {
     ASSERT_EQ(printer.jobs.size(), 1U);
     Recorder expected;
     SpacingTexts texts;
-    PrintReport(expected, s, {window->Shown().Pic_forbindelse, window->Shown().Pic_av_bolter}, clock.Now(), texts);
+    PrintReport(expected, s, {window->Work().Shown().Pic_forbindelse, window->Work().Shown().Pic_av_bolter},
+                clock.Now(), texts);
     expected.EndDoc();
     EXPECT_EQ(printer.jobs[0]->Lines(), expected.Lines());
     EXPECT_TRUE(boxes.messages.empty());
@@ -107,11 +108,11 @@ TEST_F(PrintCommand, a_cancelled_save_names_no_file) {
 TEST_F(PrintCommand, texts_of_the_spacing_tables_outlive_a_print) {
     Start_and_watch();
     s.Ant_index = 4; // six bolts
-    window->Recalculate();
+    window->Work().Recalculate();
     Menu("mnuprint");
     const std::string b5 = "b5  = " + std::string{s.Sb5_txt};
     s.Ant_index = 2; // three, arrangement b
-    window->Recalculate();
+    window->Work().Recalculate();
     Menu("mnuprint");
     ASSERT_EQ(s.Case_code, "1.3.b");
     EXPECT_EQ(Text_at(*printer.jobs[1], 95.0F, 262.0F - 4.0F * 17.0F, 2), b5);
@@ -138,7 +139,8 @@ TEST_F(PrinterDialog, offers_pdf_and_writes_it) {
     const auto target = service.Show_printer({1048580, "Report"});
     ASSERT_NE(target, nullptr);
     SpacingTexts texts;
-    PrintReport(*target, s, {window->Shown().Pic_forbindelse, window->Shown().Pic_av_bolter}, clock.Now(), texts);
+    PrintReport(*target, s, {window->Work().Shown().Pic_forbindelse, window->Work().Shown().Pic_av_bolter}, clock.Now(),
+                texts);
     target->EndDoc();
     EXPECT_TRUE(Read_file(file).starts_with("%PDF"));
 }

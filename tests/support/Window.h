@@ -8,6 +8,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QComboBox>
+#include <QDialog>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -27,6 +28,7 @@
 #include <utility>
 
 #include "calc/GlobalParameter.h"
+#include "frontend/controls/Areas.h"
 #include "frontend/controls/Controls.h"
 #include "frontend/main/frmMain.h"
 #include "tests/data/Support.h"

@@ -197,7 +197,7 @@ TEST_F(Explanations, OfTheClassesOpenFromTheirDialog) {
 
 TEST_F(Explanations, OfTheMaterialFactorsExistWithoutAButton) {
     Start("Eng");
-    ExplanationForm dialog{*window, *window, "frm_tarn_vik_matfak"};
+    ExplanationForm dialog{*window, *window, window->Work(), "frm_tarn_vik_matfak"};
     dialog.show();
     Settle();
     EXPECT_EQ(Text_of(dialog), "Material factors");
@@ -210,7 +210,7 @@ TEST_F(Explanations, OfTheMaterialFactorsExistWithoutAButton) {
 
 TEST_F(Explanations, StandAsTheyAreWhenTheLanguageChanges) {
     Start("Eng");
-    ExplanationForm dialog{*window, *window, "frm_tarn_vik_klima"};
+    ExplanationForm dialog{*window, *window, window->Work(), "frm_tarn_vik_klima"};
     dialog.show();
     Settle();
     s.Lang = "Nor";
@@ -224,7 +224,7 @@ TEST_F(Explanations, StandAsTheyAreWhenTheLanguageChanges) {
 
 TEST_F(Explanations, UnknownNameIsToldByName) {
     Start("Eng");
-    EXPECT_THROW((ExplanationForm{*window, *window, "frm_tarn_vik_nothing"}), std::logic_error);
+    EXPECT_THROW((ExplanationForm{*window, *window, window->Work(), "frm_tarn_vik_nothing"}), std::logic_error);
 }
 
 } // namespace

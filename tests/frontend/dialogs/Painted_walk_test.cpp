@@ -3,6 +3,7 @@
 //
 // With TARNVIK_SHOTS in the environment, a folder, each window is saved there as a picture.
 #include "frontend/controls/PaintedArea.h"
+#include "frontend/painting/Texts.h"
 
 #include <gtest/gtest.h>
 
@@ -64,7 +65,7 @@ protected:
 
     static void Check_texts(PaintedArea& area) {
         constexpr double half = 0.5; // of a pixel: what rounding of the letters' places may take
-        const auto placed = area.Place();
+        const auto placed = area.Place_texts();
         const auto& texts = area.Shown().texts;
         ASSERT_EQ(placed.size(), texts.size());
         for (std::size_t i = 0; i < placed.size(); ++i) {
@@ -92,7 +93,7 @@ protected:
             }
         }
         ASSERT_EQ(shown.size(), area.Shown().pictures.size());
-        const auto placed = area.Place();
+        const auto placed = area.Place_texts();
         for (std::size_t i = 0; i < shown.size(); ++i) {
             const std::string name = shown[i]->objectName().toStdString();
             for (std::size_t k = 0; k < i; ++k) {
@@ -113,14 +114,14 @@ protected:
 
     void Look_at_detailed(const std::string& name) {
         Painting painting = Paint_detailed(s);
-        frmDetailed dialog{*window};
+        frmDetailed dialog{*window, window->Work()};
         Look_at(dialog, name);
         Check_values(*dialog.findChild<PaintedArea*>(), painting);
     }
 
     // The value of a mode stands against the middle of its equation.
     void Check_values(PaintedArea& area, const Painting& painting) {
-        const auto placed = area.Place();
+        const auto placed = area.Place_texts();
         for (const PaintedPicture& picture : painting.pictures) {
             const std::string label = "Rk(" + std::string{picture.control.substr(picture.control.size() - 1)} + ")";
             const auto text = std::find_if(painting.texts.begin(), painting.texts.end(),
@@ -142,7 +143,7 @@ TEST_F(PaintedWalk, ExplanationsInBothLanguages) {
     for (const char* lang : {"Eng", "Nor"}) {
         s.Lang = lang;
         for (const ExplanationWindow& explanation : explanation_windows) {
-            ExplanationForm dialog{*window, *window, explanation.name};
+            ExplanationForm dialog{*window, *window, window->Work(), explanation.name};
             Look_at(dialog, std::string{explanation.name} + "_" + lang);
         }
     }
@@ -181,7 +182,7 @@ TEST_F(PaintedWalk, DetailedCalculationsOfAllConnections) {
                     s.Bulldog_index = 4;
                     s.Ant_index = 4;
                     s.P = -1234.5F;
-                    window->Recalculate();
+                    window->Work().Recalculate();
                     ASSERT_TRUE(boxes.messages.empty()) << boxes.messages.front().text;
                     Look_at_detailed("frmDetailed_" + std::to_string(type) + variant.name +
                                      (connectors ? "_connectors_" : "_bolts_") + lang);

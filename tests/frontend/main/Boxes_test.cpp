@@ -223,14 +223,14 @@ TEST_F(Boxes, AMismatchIsToldInBothLanguagesAndNoOtherError) {
     for (const char* lang : {"Eng", "Nor"}) {
         Start(lang);
         boxes.messages.clear();
-        window->Input_error(Box("Txt_last"), 13);
+        window->Editing().Input_error(Box("Txt_last"), 13);
         EXPECT_EQ(
             boxes.messages,
             (Messages{{std::string{lang} == "Eng" ? "Input string mismatch " : "Ikke akseptabel karakter ", 48}}));
         Answer();
         EXPECT_EQ(Focus(), "Txt_last");
         Click("Cmd_type(0)");
-        window->Input_error(Box("Txt_alp"), 6);
+        window->Editing().Input_error(Box("Txt_alp"), 6);
         Settle();
         EXPECT_EQ(boxes.messages.size(), 1U);
         EXPECT_EQ(Focus(), "Txt_alp");
@@ -475,7 +475,7 @@ TEST_F(ManualHe, OtherInputsLeaveTheCheckAlone) {
 TEST_F(ManualHe, APassLeavesAHalfTypedValue) {
     Start_manual();
     Type("Txt_man_he", "77");
-    window->Recalculate();
+    window->Work().Recalculate();
     EXPECT_EQ(Text("Txt_man_he"), "77");
 }
 

@@ -204,8 +204,8 @@ TEST_F(Files, OpenBringsEveryInputBack) {
     EXPECT_TRUE(Enabled("Opt_dob_1")); // the option of single member 1 enables it again
     EXPECT_EQ(Text("Lbl_klima_2"), "3");
     EXPECT_EQ(Text("Lbl_lastvar_2"), "Medium term action  ");
-    EXPECT_TRUE(Find_in<QAbstractButton>(window->Classes_form(), "Opt_Lastvarighet(2)").isChecked());
-    EXPECT_TRUE(Find_in<QAbstractButton>(window->Classes_form(), "Opt_klimaklasse(2)").isChecked());
+    EXPECT_TRUE(Find_in<QAbstractButton>(Find<QDialog>("Frm_tarn_vik_fak_klass"), "Opt_Lastvarighet(2)").isChecked());
+    EXPECT_TRUE(Find_in<QAbstractButton>(Find<QDialog>("Frm_tarn_vik_fak_klass"), "Opt_klimaklasse(2)").isChecked());
     EXPECT_TRUE(Checked("Check_man"));
     EXPECT_TRUE(Enabled("Txt_man_he"));
     EXPECT_TRUE(Enabled("Lbl_man_he"));
@@ -270,7 +270,7 @@ TEST_F(Files, AnEnglishProjectTurnsANorwegianProgram) {
     EXPECT_EQ(Text("mnuFileItem(1)"), "Open");
     EXPECT_EQ(Text("Fra_valgfri"), "Optional (mm)");
     EXPECT_EQ(Text("Lbl_lastvar_2"), "Permanent action    ");
-    EXPECT_EQ(window->Classes_form().windowTitle(), QStringLiteral("Classes"));
+    EXPECT_EQ(Find<QDialog>("Frm_tarn_vik_fak_klass").windowTitle(), QStringLiteral("Classes"));
 }
 
 TEST_F(Files, AProjectBringsItsOwnMaterialsAndFactors) {

@@ -16,6 +16,7 @@
 #include <sstream>
 
 #include "frontend/dialogs/Frm_tarn_vik_fak_klass.h"
+#include "frontend/painting/SetText.h"
 #include "tests/support/Window.h"
 
 namespace tarnvik::test {
@@ -56,7 +57,7 @@ public:
         Siblings(top);
     }
     void Tables(TableArea& area) {
-        const std::vector<TableArea::Placed> placed = area.Place();
+        const std::vector<TableArea::Placed> placed = area.Place_rows();
         std::vector<QRectF> ink;
         for (std::size_t i = 0; i < placed.size(); ++i) {
             const PositionedText& row = area.Rows()[i];
@@ -317,7 +318,7 @@ TEST_F(LayoutWalk, EveryConnectionInBothLanguagesWithAndWithoutConnectors) {
                 s.P = force;
                 Cases([&] {
                     window->Write_language(); // with the member names of the type
-                    window->Recalculate();
+                    window->Work().Recalculate();
                     seen.insert(std::string{s.Case_code.View()} + (s.P > 0.0F ? "+" : "-"));
                     Measure_window(measure);
                 });
@@ -346,12 +347,12 @@ TEST_F(LayoutWalk, TheFreeEntryAndEveryNumber) {
             Box("Txt_h1").setText(QStringLiteral("1000"));
             Box("Txt_h2").setText(QStringLiteral("1000"));
             window->Write_language();
-            window->Recalculate();
+            window->Work().Recalculate();
             Measure_window(measure);
         }
         for (int row = 0; row <= s.Mat_count; ++row) {
             s.Mat_index = static_cast<std::int16_t>(row);
-            window->Recalculate();
+            window->Work().Recalculate();
             Measure_window(measure);
         }
     }

@@ -12,7 +12,7 @@ protected:
     void Expect_consistent() {
         EXPECT_EQ(boxes.Waiting(), 0U);
         EXPECT_FALSE(s.Loading);
-        EXPECT_FALSE(window->Refusing());
+        EXPECT_FALSE(window->Editing().Refusing());
         EXPECT_EQ(Row("Comb_bolter"), s.Bolt_index);
         EXPECT_EQ(Row("Comb_ant_bolt"), s.Ant_index);
         EXPECT_EQ(Row("cboMat"), s.Mat_index);
@@ -149,7 +149,7 @@ protected:
     }
     // Reads every box; a refused value is mended, so that the walk goes on.
     void Answer_all() {
-        for (int i = 0; i < 20 && (boxes.Waiting() > 0 || window->Refusing()); ++i) {
+        for (int i = 0; i < 20 && (boxes.Waiting() > 0 || window->Editing().Refusing()); ++i) {
             if (boxes.Waiting() > 0) {
                 boxes.Answer();
             }

@@ -51,7 +51,7 @@ TEST_F(StartUp, SelectsTheStartValues) {
     EXPECT_FALSE(Enabled("Lbl_man_he"));
     EXPECT_TRUE(Enabled("Fra_standard"));
     EXPECT_FALSE(Enabled("Fra_valgfri"));
-    auto& classes = window->Classes_form();
+    auto& classes = Find<QDialog>("Frm_tarn_vik_fak_klass");
     EXPECT_TRUE(Find_in<QAbstractButton>(classes, "Opt_Lastvarighet(0)").isChecked());
     EXPECT_TRUE(Find_in<QAbstractButton>(classes, "Opt_klimaklasse(0)").isChecked());
 }
@@ -94,7 +94,7 @@ TEST_F(StartUp, ShowsTheFirstResults) {
     EXPECT_EQ(Text("Txt_man_he"), std::string{Format(s.he, "00").View()});
     EXPECT_EQ(s.Case_code, "1.2.b");
     EXPECT_FALSE(Find<TableArea>("Pic_av_bolter_dif").Rows().empty());
-    EXPECT_EQ(Find<PictureArea>("Pic_forbindelse").Picture(), std::string{window->Shown().Pic_forbindelse});
+    EXPECT_EQ(Find<PictureArea>("Pic_forbindelse").Picture(), std::string{window->Work().Shown().Pic_forbindelse});
     EXPECT_FALSE(Find<PictureArea>("Pic_forbindelse").Picture().empty());
     EXPECT_FALSE(Find<PictureArea>("Pic_av_bolter").Picture().empty());
     EXPECT_TRUE(Visible("Cmd_detail"));

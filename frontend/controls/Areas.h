@@ -1,0 +1,83 @@
+// The controls that show stored pictures, and the area of the spacing tables.
+#pragma once
+
+#include <QAbstractButton>
+#include <QFont>
+#include <QRectF>
+#include <QWidget>
+
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "calc/Screen.h"
+
+namespace tarnvik {
+
+// A button that shows a stored picture, or its caption.
+class PictureButton : public QAbstractButton {
+    Q_OBJECT
+
+public:
+    using QAbstractButton::QAbstractButton;
+    void Set_picture(const std::string& key);
+    void Set_pressed_look(bool chosen);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    std::string key_;
+    bool chosen_{};
+};
+
+// An area that shows a stored picture; an empty frame while the key has none.
+class PictureArea : public QWidget {
+    Q_OBJECT
+
+public:
+    using QWidget::QWidget;
+    void Set_picture(std::string_view key);
+    [[nodiscard]] const std::string& Picture() const { return key_; }
+    // What covers the right end of the area, in pixels: pictures stay left of it.
+    void Set_covered(int pixels) { covered_ = pixels; }
+    // Without a frame the picture alone is seen, on white.
+    void Set_framed(bool framed) { framed_ = framed; }
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    std::string key_;
+    int covered_{};
+    bool framed_{true};
+};
+
+// An area of positioned texts in a scale of 100 by 100 with the origin at the lower left.
+class TableArea : public QWidget {
+    Q_OBJECT
+
+public:
+    using QWidget::QWidget;
+    void Set_rows(std::span<const PositionedText> rows);
+    [[nodiscard]] const std::vector<PositionedText>& Rows() const { return rows_; }
+
+    // Where the texts are drawn, in pixels: each in its own room, which ends before the next text of the same line.
+    struct Placed {
+        QRectF room;
+        double width;     // as wide as the text would like to be
+        double narrowing; // horizontal scale of what is drawn
+    };
+    [[nodiscard]] std::vector<Placed> Place_rows() const;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    [[nodiscard]] QFont Row_font(bool bold) const;
+
+    std::vector<PositionedText> rows_;
+};
+
+} // namespace tarnvik

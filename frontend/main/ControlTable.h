@@ -1,0 +1,50 @@
+// The controls of the main window as tables: name, kind, parent and what is built in; which label names which box; what
+// a screen reader says of the rest.
+#pragma once
+
+#include <cstdint>
+#include <span>
+
+namespace tarnvik {
+
+enum class Kind : std::uint8_t {
+    frame,
+    label,
+    text_box,
+    list,
+    option,
+    check,
+    button,
+    picture_button,
+    picture,
+    table,
+    plain
+};
+
+// Built place and size in pixels at 96 dpi; a width of 0 is measured from the texts that the control takes. What the
+// layout gives overrides them.
+struct ControlRow {
+    const char* name;
+    Kind kind;
+    const char* parent; // empty: the window
+    const char* caption;
+    double left, top, width, height;
+};
+
+// In reading order, which is also the order of the Tab key; a parent stands before its children.
+std::span<const ControlRow> Control_rows();
+
+// A box and the label that names it; a list without one is named by its frame.
+struct Buddy {
+    const char* label;
+    const char* box;
+};
+std::span<const Buddy> Buddies();
+
+struct AccessibleName {
+    const char* control;
+    const char* name;
+};
+std::span<const AccessibleName> Accessible_names();
+
+} // namespace tarnvik

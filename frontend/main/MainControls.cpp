@@ -1,0 +1,200 @@
+#include "frontend/main/MainControls.h"
+
+#include <QAction>
+#include <QCheckBox>
+#include <QMainWindow>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPushButton>
+
+#include <stdexcept>
+
+#include "frontend/controls/Areas.h"
+#include "frontend/controls/Controls.h"
+#include "frontend/main/ControlTable.h"
+#include "frontend/painting/Texts.h"
+
+namespace tarnvik {
+
+namespace {
+
+Label* New_label(const QString& caption, QWidget* parent) {
+    auto* made = new Label{caption, parent};
+    made->setTextFormat(Qt::PlainText);
+    made->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    return made;
+}
+
+QPushButton* New_button(const QString& caption, QWidget* parent) {
+    auto* made = new QPushButton{caption, parent};
+    made->setAutoDefault(false);
+    return made;
+}
+
+PictureButton* New_picture_button(const QString& caption, QWidget* parent) {
+    auto* made = new PictureButton{parent};
+    made->setText(caption);
+    made->setFocusPolicy(Qt::StrongFocus);
+    return made;
+}
+
+QWidget* New_control(const ControlRow& row, QWidget* parent) {
+    const QString caption = Q(row.caption);
+    switch (row.kind) {
+    case Kind::frame:
+        return new Frame{caption, parent};
+    case Kind::label:
+        return New_label(caption, parent);
+    case Kind::text_box:
+        return new TextBox{parent};
+    case Kind::list:
+        return new ListBox{parent};
+    case Kind::option:
+        return new Option{caption, parent};
+    case Kind::check:
+        return new QCheckBox{caption, parent};
+    case Kind::button:
+        return New_button(caption, parent);
+    case Kind::picture_button:
+        return New_picture_button(caption, parent);
+    case Kind::picture:
+        return new PictureArea{parent};
+    case Kind::table:
+        return new TableArea{parent};
+    case Kind::plain:
+        break;
+    }
+    return new QWidget{parent};
+}
+
+} // namespace
+
+MainControls::MainControls(QMainWindow& window) {
+    Build_menus(window);
+    Build_controls(window);
+    Name_controls();
+    Set_tab_order();
+}
+
+QObject* MainControls::Look_up(std::string_view name) const {
+    const auto found = controls_.find(name);
+    return found == controls_.end() ? nullptr : found->second;
+}
+
+void MainControls::Missing(std::string_view name) {
+    throw std::logic_error("no control named " + std::string{name});
+}
+
+void MainControls::Build_controls(QMainWindow& window) {
+    auto* ground = new QWidget{&window};
+    ground->setObjectName(QStringLiteral("ground"));
+    window.setCentralWidget(ground);
+    controls_.emplace("frmMain", &window);
+    for (const ControlRow& row : Control_rows()) {
+        QWidget* parent = *row.parent == '\0' ? ground : &Find<QWidget>(row.parent);
+        QWidget* control = New_control(row, parent);
+        control->setObjectName(Q(row.name));
+        controls_.emplace(row.name, control);
+    }
+    // The last box of the free entry hands the focus on to the area that holds them.
+    Find<QWidget>("Pic_Dim").setFocusPolicy(Qt::ClickFocus);
+    Find<QWidget>("Cmd_detail").hide();
+}
+
+void MainControls::Name_controls() {
+    for (const Buddy& buddy : Buddies()) {
+        Find<Label>(buddy.label).setBuddy(&Find<QWidget>(buddy.box));
+    }
+    for (const AccessibleName& named : Accessible_names()) {
+        Find<QWidget>(named.control).setAccessibleName(Q(named.name));
+    }
+    for (int i = 0; i < 5; ++i) {
+        const std::string name = "Cmd_type(" + std::to_string(i) + ")";
+        auto& type = Find<PictureButton>(name);
+        type.Set_picture("frmMain/" + name);
+        type.setToolTip(type.accessibleName());
+    }
+    Find<Label>("Lbl_last").setToolTip(QStringLiteral("kN"));
+}
+
+void MainControls::Build_menus(QMainWindow& window) {
+    struct Entry {
+        const char* name;
+        const char* caption;
+    };
+    QMenuBar* const bar = window.menuBar();
+    const auto add = [this](QWidget* menu, const Entry& entry) {
+        auto* action = new QAction{Q(entry.caption), menu};
+        menu->addAction(action);
+        action->setObjectName(Q(entry.name));
+        action->setMenuRole(QAction::NoRole);
+        controls_.emplace(entry.name, action);
+        return action;
+    };
+    const auto top = [this, bar](const Entry& entry) {
+        QMenu* menu = bar->addMenu(Q(entry.caption));
+        menu->setObjectName(Q(entry.name));
+        controls_.emplace(entry.name, menu);
+        return menu;
+    };
+
+    QMenu* file = top({"mnufile", "&File"});
+    add(file, {"mnuFileItem(1)", "&Åpne"})->setShortcut(QKeySequence::Open);
+    add(file, {"mnuFileItem(2)", "&Lagre"})->setShortcut(QKeySequence::Save);
+    add(file, {"mnuFileItem(3)", "&Lagre som"});
+    add(file, {"mnurecentfile(0)", ""})->setSeparator(true);
+    add(file, {"mnurecentfile(1)", "&oldfile1"})->setVisible(false);
+    add(file, {"mnurecentfile(2)", "&oldfile2"})->setVisible(false);
+    add(file, {"mnurecentfile(3)", "&oldfile3"})->setVisible(false);
+    add(file, {"mnurecentfile(4)", "-"})->setSeparator(true);
+    add(file, {"mnuexit", "&Exit"});
+    add(bar, {"mnusetup", "&Setup"});
+    add(bar, {"mnuklasse", "&Klasser"});
+    add(bar, {"mnuDatabase", "&Database"});
+    add(bar, {"mnuprint", "&Skriv ut"});
+    QMenu* help = top({"mnuhelp", "&Hjelp"});
+    add(help, {"mmuTheory", "&User && Theory Manual"});
+    add(help, {"mnuabout", "&Om Tarnvik"});
+}
+
+void MainControls::Set_tab_order() {
+    QWidget* last = nullptr;
+    for (const ControlRow& row : Control_rows()) {
+        auto& control = Find<QWidget>(row.name);
+        if (control.focusPolicy() == Qt::NoFocus || row.kind == Kind::plain) {
+            continue;
+        }
+        if (last != nullptr) {
+            QWidget::setTabOrder(last, &control);
+        }
+        last = &control;
+    }
+}
+
+WriteCaption Caption_of(QObject& control) {
+    if (auto* label = dynamic_cast<QLabel*>(&control)) {
+        return [label](const QString& text) { label->setText(text); };
+    }
+    if (auto* box = dynamic_cast<QLineEdit*>(&control)) {
+        return [box](const QString& text) {
+            if (box->text() != text) {
+                box->setText(text);
+            }
+        };
+    }
+    if (auto* group = dynamic_cast<QGroupBox*>(&control)) {
+        return [group](const QString& text) { group->setTitle(text); };
+    }
+    if (auto* button = dynamic_cast<QAbstractButton*>(&control)) {
+        return [button](const QString& text) { button->setText(text); };
+    }
+    if (auto* menu = dynamic_cast<QMenu*>(&control)) {
+        return [menu](const QString& text) { menu->setTitle(text); };
+    }
+    if (auto* action = dynamic_cast<QAction*>(&control)) {
+        return [action](const QString& text) { action->setText(text); };
+    }
+    return {};
+}
+
+} // namespace tarnvik

@@ -1,0 +1,52 @@
+// The File menu: opening and saving projects, and the last four of them.
+#pragma once
+
+#include <QObject>
+
+#include <array>
+#include <functional>
+#include <string>
+
+#include "data/RecentFiles.h"
+#include "frontend/main/InputBoxes.h"
+#include "frontend/main/MainControls.h"
+#include "ports/Services.h"
+#include "session/Session.h"
+
+class QAction;
+
+namespace tarnvik {
+
+class ProjectMenu : public QObject {
+    Q_OBJECT
+
+public:
+    // `show_project` brings an opened project onto the controls; it may throw RuntimeFault.
+    ProjectMenu(const MainControls& controls, Session& session, const Services& services, const InputBoxes& boxes,
+                std::function<void()> show_project);
+
+    // The last files from the settings store onto the menu.
+    void Load_recent();
+
+signals:
+    // The project has a name now.
+    void Named();
+
+private:
+    // File menu: 1 open, 2 save, 3 save as.
+    void File_menu(int Index);
+    void Open();
+    void Save();
+    void Save_as();
+    void Recent_open(int Index);
+    void Open_path(const std::string& path);
+
+    Session& session_;
+    Services services_;
+    const InputBoxes& boxes_;
+    std::function<void()> show_project_;
+    RecentMenu recent_;
+    std::array<QAction*, recent_count> entries_{};
+};
+
+} // namespace tarnvik

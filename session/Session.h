@@ -1,0 +1,99 @@
+// One session with a connection: the state, what the controls show of it and the texts of its reports, from the start
+// over opening, calculating and printing to saving. The window and the headless tool each run on one; what differs
+// between them is behind SessionView.
+#pragma once
+
+#include <filesystem>
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "calc/GlobalParameter.h"
+#include "calc/RuntimeFault.h"
+#include "calc/Screen.h"
+#include "calc/pass/Main_beregn.h"
+#include "data/Startup.h"
+#include "ports/Clock.h"
+#include "ports/MessageBox.h"
+#include "ports/PrintTarget.h"
+#include "report/PrintReport.h"
+
+namespace tarnvik {
+
+// What a session asks of whoever shows it.
+class SessionView {
+public:
+    SessionView() = default;
+    SessionView(const SessionView&) = delete;
+    SessionView& operator=(const SessionView&) = delete;
+    virtual ~SessionView() = default;
+
+    // Where the messages of a pass and of an opening go.
+    virtual MessageBox& Box() = 0;
+
+    // Before a pass: brings into the state what stands in controls that have not been left.
+    virtual void Before_pass() {}
+
+    // After a pass, however it ended.
+    virtual void After_pass() {}
+};
+
+// Names that stand in the window's boxes and need not have reached the state yet.
+struct TypedNames {
+    std::string Prosjekt, Id;
+};
+
+class Session {
+public:
+    // Nothing is read yet. Both have to outlive the session.
+    Session(ConnectionState& s, SessionView& view) : s_(s), view_(view) {}
+
+    [[nodiscard]] ConnectionState& State() { return s_; }
+    [[nodiscard]] const ConnectionState& State() const { return s_; }
+    [[nodiscard]] Screen& Shown() { return screen_; }
+
+    // The program's folder, from the start on.
+    [[nodiscard]] const std::filesystem::path& Folder() const { return folder_; }
+
+    // A new project from the files of the folder, as Start_state. Loading is set until First_pass.
+    // Errors: throws DataFileError.
+    StartReport Start(const std::filesystem::path& folder, std::optional<std::string_view> lang = std::nullopt);
+
+    enum class Showing : std::uint8_t { screen, nothing };
+
+    // A pass. With Showing::nothing it formats no text for the screen.
+    PassResult Pass(Showing showing = Showing::screen);
+
+    // The pass that ends a start, an opening or a change of inputs by name: Loading is off afterwards, also where the
+    // pass was stopped.
+    PassResult First_pass(Showing showing = Showing::screen);
+
+    // A pass. Errors: throws its RuntimeFault, after the view has shown what was reached.
+    void Main_beregn();
+
+    // A pass with the last resort: a fault is told in a box and the program goes on.
+    void Recalculate();
+
+    // Reads a project into the state; `show` then brings it onto the controls. A failure of either is told in the box,
+    // restores nothing, and is handed back. The project has its name in any case. The caller's pass ends the opening.
+    std::optional<RuntimeFault> Open(const std::string& path, const std::function<void()>& show = {});
+
+    // The path of the project from now on.
+    void Name(const std::string& path);
+
+    // Writes the project, which keeps its name. Errors: throws RuntimeFault, as Safe_write.
+    void Save(const std::string& path, const std::optional<TypedNames>& typed = std::nullopt) const;
+
+    // The report of the state as it stands. Errors: as PrintReport.
+    void Print(PrintTarget& target, const Moment& now);
+
+private:
+    ConnectionState& s_;
+    SessionView& view_;
+    std::filesystem::path folder_;
+    Screen screen_;
+    SpacingTexts report_texts_; // outlive a print
+};
+
+} // namespace tarnvik

@@ -10,6 +10,7 @@
 #include "calc/pass/Main_beregn.h"
 #include "check/Inputs.h"
 #include "check/Json.h"
+#include "check/MessageLog.h"
 #include "check/Options.h"
 #include "check/Summary.h"
 #include "data/ProjectFile.h"
@@ -83,7 +84,7 @@ private:
     }
 
     int Project(const std::string& path) {
-        RecordingMessageBox box;
+        MessageLog box;
         try {
             Project_record record;
             Load_project(*s_, record, path);
@@ -102,7 +103,7 @@ private:
 
     // A pass, its result and the saving that was asked for.
     int One(const std::string& project) {
-        RecordingMessageBox box;
+        MessageLog box;
         Screen screen;
         const PassResult result = Run_pass(*s_, &screen, box);
         s_->Loading = false;
@@ -170,7 +171,7 @@ private:
             *screen = Screen{};
             json.clear();
             try {
-                RecordingMessageBox box;
+                MessageLog box;
                 PassResult result;
                 const Json inputs = Json::parse(line);
                 const auto pass = [&](const Json& object) {

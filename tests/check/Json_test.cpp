@@ -8,7 +8,7 @@
 #include <random>
 
 #include "calc/StateFields.h"
-#include "tests/check/Support.h"
+#include "tests/support/Tool.h"
 
 namespace tarnvik {
 namespace {

@@ -2,7 +2,7 @@
 
 #include <memory>
 
-#include "tests/check/Support.h"
+#include "tests/support/Tool.h"
 
 namespace tarnvik {
 namespace {

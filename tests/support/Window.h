@@ -29,8 +29,9 @@
 #include "calc/GlobalParameter.h"
 #include "frontend/controls/Controls.h"
 #include "frontend/main/frmMain.h"
-#include "tests/data/Support.h"
 #include "tests/support/Fakes.h"
+#include "tests/support/Files.h"
+#include "tests/support/MemorySettingsStore.h"
 
 namespace tarnvik::test {
 

@@ -137,7 +137,7 @@ protected:
     }
 };
 
-TEST_F(PaintedWalk, ExplanationsInBothLanguages) {
+TEST_F(PaintedWalk, explanations_in_both_languages) {
     Start();
     for (const char* lang : {"Eng", "Nor"}) {
         s.Lang = lang;
@@ -148,7 +148,7 @@ TEST_F(PaintedWalk, ExplanationsInBothLanguages) {
     }
 }
 
-TEST_F(PaintedWalk, DetailedCalculationsOfAllConnections) {
+TEST_F(PaintedWalk, detailed_calculations_of_all_connections) {
     Start();
     const auto highest = [this](int count) {
         int best = 0;

@@ -12,9 +12,9 @@
 
 #include "frontend/controls/Controls.h"
 #include "frontend/painting/QtPrintTarget.h"
-#include "tests/data/Support.h"
-#include "tests/report/Support.h"
 #include "tests/support/Fakes.h"
+#include "tests/support/Files.h"
+#include "tests/support/Report.h"
 
 namespace tarnvik {
 namespace {

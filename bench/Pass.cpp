@@ -6,6 +6,7 @@
 #include "calc/pass/Main_beregn.h"
 #include "data/Startup.h"
 #include "spacing/Catalogue.h"
+#include "tests/support/RecordingMessageBox.h"
 
 namespace tarnvik {
 
@@ -43,7 +44,7 @@ bool Complete(const ConnectionState& s, const PassResult& result) {
 void One_case(benchmark::State& bench, Screen* screen, std::string_view code) {
     const auto s = Connection();
     Choose(*s, case_table.at(static_cast<std::size_t>(Find_case(code))));
-    RecordingMessageBox box;
+    test::RecordingMessageBox box;
     if (!Complete(*s, Run_pass(*s, screen, box))) {
         bench.SkipWithError("the pass does not run through");
         return;

@@ -12,6 +12,7 @@
 #include "frontend/painting/Texts.h"
 #include "report/PrintReport.h"
 #include "report/Recorder.h"
+#include "tests/support/RecordingMessageBox.h"
 
 namespace tarnvik {
 
@@ -25,7 +26,7 @@ struct Full {
         s->Med_bulldog = true;
         s->Bolt_index = 5;
         s->Ant_index = 4;
-        RecordingMessageBox box;
+        test::RecordingMessageBox box;
         complete = Run_pass(*s, &screen, box).end == PassEnd::normal && s->Rd_for > 0.0F;
     }
     void Print(PrintTarget& target) {

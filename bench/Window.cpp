@@ -19,8 +19,9 @@
 #include "frontend/controls/Style.h"
 #include "frontend/main/frmMain.h"
 #include "frontend/painting/Icon.h"
-#include "ports/SettingsStore.h"
 #include "session/SystemClock.h"
+#include "tests/support/Fakes.h"
+#include "tests/support/MemorySettingsStore.h"
 
 namespace {
 
@@ -38,32 +39,13 @@ public:
     }
 };
 
-class NoFiles : public tarnvik::FileDialogs {
-public:
-    std::optional<std::string> Open(const tarnvik::FileRequest& /*request*/) override { return std::nullopt; }
-    std::optional<std::string> Save(const tarnvik::FileRequest& /*request*/) override { return std::nullopt; }
-};
-
-class NoOpener : public tarnvik::DocumentOpener {
-public:
-    bool Open_file(const std::string& /*path*/) override { return false; }
-    bool Open_link(const std::string& /*url*/) override { return false; }
-};
-
-class NoPrinter : public tarnvik::PrinterService {
-public:
-    std::unique_ptr<tarnvik::PrintTarget> Show_printer(const tarnvik::PrinterRequest& /*request*/) override {
-        return nullptr;
-    }
-};
-
 // The window as the program makes it, on the delivered data.
 struct Program {
     NoBoxes boxes;
-    NoFiles files;
-    NoOpener opener;
-    tarnvik::MemorySettingsStore settings;
-    NoPrinter printer;
+    tarnvik::test::ScriptedDialogs files;
+    tarnvik::test::RecordingOpener opener;
+    tarnvik::test::MemorySettingsStore settings;
+    tarnvik::test::ScriptedPrinter printer;
     tarnvik::SystemClock clock;
     tarnvik::ConnectionState state;
     tarnvik::frmMain window{state, {boxes, files, opener, settings, printer, clock}, TARNVIK_DATA_DIR};

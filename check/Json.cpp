@@ -329,8 +329,7 @@ void Append_json(std::string& json, std::string_view text) {
 }
 
 void Append_result(std::string& json, const Options& options, const std::string& project, const ConnectionState& s,
-                   const Screen& screen, const PassResult& result, const RecordingMessageBox& box,
-                   const RecordReport& record) {
+                   const Screen& screen, const PassResult& result, const MessageLog& box, const RecordReport& record) {
     List object{json, '{', '}'};
     if (!project.empty()) {
         object.Member("project", project);

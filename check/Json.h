@@ -10,8 +10,8 @@
 #include "calc/GlobalParameter.h"
 #include "calc/Screen.h"
 #include "calc/pass/Main_beregn.h"
+#include "check/MessageLog.h"
 #include "check/Options.h"
-#include "ports/MessageBox.h"
 #include "report/Recorder.h"
 
 namespace tarnvik {
@@ -25,7 +25,7 @@ using RecordReport = std::function<std::vector<PrintCall>()>;
 // One result as an object without line end: project (where one was opened), end, fault, messages, state, and the groups
 // that the options ask for. Appends to `json`. `record` is called for the group `report`.
 void Append_result(std::string& json, const Options& options, const std::string& project, const ConnectionState& s,
-                   const Screen& screen, const PassResult& result, const RecordingMessageBox& box,
+                   const Screen& screen, const PassResult& result, const MessageLog& box,
                    const RecordReport& record = {});
 
 } // namespace tarnvik

@@ -195,7 +195,7 @@ void Distances(std::string& text, const ConnectionState& s) {
 } // namespace
 
 std::string Summary(const std::string& project, const ConnectionState& s, const PassResult& result,
-                    const RecordingMessageBox& box) {
+                    const MessageLog& box) {
     std::string text = project.empty() ? std::string{} : project + ": ";
     text += s.Prosjekt + ", " + s.Id + "\n";
     switch (result.end) {

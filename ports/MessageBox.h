@@ -2,9 +2,7 @@
 // screen.
 #pragma once
 
-#include <string>
 #include <string_view>
-#include <vector>
 
 namespace tarnvik {
 
@@ -20,19 +18,6 @@ public:
 
     // Shows a text without a title and waits for the answer. `style` is box_plain or box_exclamation.
     virtual void Show(std::string_view text, int style) = 0;
-};
-
-// Keeps what was shown, for tests and for the headless tool.
-class RecordingMessageBox final : public MessageBox {
-public:
-    struct Message {
-        std::string text;
-        int style;
-    };
-
-    void Show(std::string_view text, int style) override { messages.push_back({std::string{text}, style}); }
-
-    std::vector<Message> messages;
 };
 
 } // namespace tarnvik

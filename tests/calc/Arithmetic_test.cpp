@@ -4,7 +4,7 @@
 
 #include <limits>
 
-#include "tests/calc/Support.h"
+#include "tests/support/Calculation.h"
 
 namespace tarnvik {
 namespace {

@@ -4,7 +4,8 @@
 
 #include <cmath>
 
-#include "tests/calc/Support.h"
+#include "tests/support/Calculation.h"
+#include "tests/support/RecordingMessageBox.h"
 
 namespace tarnvik {
 namespace {
@@ -35,7 +36,7 @@ TEST(Connector, refuses_the_bolts_of_the_table_in_both_qualities) {
             const bool wanted = refused[connector][bolt];
             s.Bulldog_invalid = !wanted;
             Screen screen;
-            RecordingMessageBox box;
+            test::RecordingMessageBox box;
             Bulldog_check(s, ScreenWriter{&screen}, box);
             EXPECT_EQ(s.Bulldog_invalid, wanted);
             EXPECT_EQ(screen[Control::Comb_bulldog].back, wanted ? 65280U : 16777215U);
@@ -69,7 +70,7 @@ TEST(Connector, one_message_serves_both_directions) {
         s.Lang = row.lang;
         s.Bulldog_index = row.connector;
         s.Bolt_index = row.bolt;
-        RecordingMessageBox box;
+        test::RecordingMessageBox box;
         Bulldog_check(s, ScreenWriter{nullptr}, box);
         if (row.text == nullptr) {
             EXPECT_TRUE(box.messages.empty());
@@ -87,7 +88,7 @@ TEST(Connector, the_check_reads_the_row_of_the_bolt_not_its_diameter) {
     s.Bulldog_index = 0;
     s.Bolt_index = 5; // M16x8.8
     s.d = 24.0F;
-    RecordingMessageBox box;
+    test::RecordingMessageBox box;
     Bulldog_check(s, ScreenWriter{nullptr}, box);
     EXPECT_FALSE(s.Bulldog_invalid);
     s.Bolt_index = 8; // no such row: nothing to refuse
@@ -104,7 +105,7 @@ TEST(Connector, a_connector_row_outside_the_table_is_not_checked) {
             s.Bulldog_index = static_cast<std::int16_t>(index);
             s.Bulldog_invalid = invalid;
             Screen screen;
-            RecordingMessageBox box;
+            test::RecordingMessageBox box;
             Bulldog_check(s, ScreenWriter{&screen}, box);
             EXPECT_EQ(s.Bulldog_invalid, invalid);
             EXPECT_FALSE(screen[Control::Comb_bulldog].back.has_value());

@@ -4,7 +4,7 @@
 
 #include <cmath>
 
-#include "tests/calc/Support.h"
+#include "tests/support/Calculation.h"
 
 namespace tarnvik {
 namespace {

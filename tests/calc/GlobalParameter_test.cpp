@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "calc/pass/Main_beregn.h"
-#include "tests/calc/Support.h"
+#include "tests/support/Calculation.h"
 
 namespace tarnvik {
 namespace {

@@ -5,7 +5,7 @@
 #include <cmath>
 
 #include "calc/Arithmetic.h"
-#include "tests/calc/Support.h"
+#include "tests/support/Calculation.h"
 
 namespace tarnvik {
 namespace {

@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "tests/calc/Support.h"
+#include "tests/support/Calculation.h"
 
 namespace tarnvik {
 namespace {

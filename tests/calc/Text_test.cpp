@@ -7,7 +7,7 @@
 #include <cmath>
 #include <cstdlib>
 
-#include "tests/calc/Support.h"
+#include "tests/support/Calculation.h"
 
 namespace tarnvik {
 namespace {

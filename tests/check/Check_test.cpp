@@ -4,7 +4,7 @@
 
 #include "data/SetupFile.h"
 #include "data/Tables.h"
-#include "tests/check/Support.h"
+#include "tests/support/Tool.h"
 
 namespace tarnvik {
 namespace {

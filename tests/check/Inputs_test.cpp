@@ -4,7 +4,7 @@
 #include <memory>
 
 #include "check/Options.h"
-#include "tests/check/Support.h"
+#include "tests/support/Tool.h"
 
 namespace tarnvik {
 namespace {

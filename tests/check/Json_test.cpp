@@ -8,7 +8,7 @@
 #include <random>
 
 #include "calc/StateFields.h"
-#include "tests/check/Support.h"
+#include "tests/support/Tool.h"
 
 namespace tarnvik {
 namespace {
@@ -20,7 +20,7 @@ std::string Result(const ConnectionState& s, std::vector<std::string> fields) {
     Options options;
     options.fields = std::move(fields);
     std::string json;
-    Append_result(json, options, {}, s, Screen{}, PassResult{}, RecordingMessageBox{});
+    Append_result(json, options, {}, s, Screen{}, PassResult{}, MessageLog{});
     return json;
 }
 
@@ -146,7 +146,7 @@ TEST(Json, a_result_has_its_members_in_order) {
     screen[Control::Cmd_detail].visible = true;
     screen[Control::Cmd_boltetype_0].enabled = false;
     screen[Control::Comb_bulldog].back = colour_green_box;
-    RecordingMessageBox box;
+    MessageLog box;
     box.Show("told", box_exclamation);
     PassResult result;
     result.end = PassEnd::fault;

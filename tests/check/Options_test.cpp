@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "calc/StateFields.h"
-#include "tests/check/Support.h"
+#include "tests/support/Tool.h"
 
 namespace tarnvik {
 namespace {

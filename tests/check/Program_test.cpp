@@ -12,7 +12,7 @@
 
 #include <nlohmann/json.hpp>
 
-#include "tests/check/Support.h"
+#include "tests/support/Tool.h"
 
 #if defined(__has_feature)
 #if __has_feature(address_sanitizer)

@@ -2,7 +2,7 @@
 
 #include <memory>
 
-#include "tests/check/Support.h"
+#include "tests/support/Tool.h"
 
 namespace tarnvik {
 namespace {
@@ -53,7 +53,7 @@ TEST(Summary, a_check_without_results_says_so) {
 
 TEST(Summary, the_unrounded_utilisation_decides_and_is_shown_where_rounding_would_hide_it) {
     const auto s = std::make_unique<ConnectionState>();
-    RecordingMessageBox box;
+    MessageLog box;
     s->Con_code = "1.1";
     s->Case_code = "1.1. ";
     s->enk_1 = s->enk_2 = true;
@@ -80,7 +80,7 @@ TEST(Summary, an_opened_project_is_named) {
     const auto s = std::make_unique<ConnectionState>();
     s->Prosjekt = "Bru";
     s->Id = "B1";
-    EXPECT_EQ(Summary("a.tnvik", *s, {PassEnd::zero_section, std::nullopt}, RecordingMessageBox{}).substr(0, 16),
+    EXPECT_EQ(Summary("a.tnvik", *s, {PassEnd::zero_section, std::nullopt}, MessageLog{}).substr(0, 16),
               "a.tnvik: Bru, B1");
 }
 

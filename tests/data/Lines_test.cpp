@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "tests/data/Support.h"
+#include "tests/support/Files.h"
 
 namespace tarnvik {
 namespace {

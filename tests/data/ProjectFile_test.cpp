@@ -11,7 +11,8 @@
 
 #include "calc/pass/Main_beregn.h"
 #include "data/Startup.h"
-#include "tests/data/Support.h"
+#include "tests/support/Files.h"
+#include "tests/support/RecordingMessageBox.h"
 
 namespace tarnvik {
 namespace {
@@ -19,6 +20,7 @@ namespace {
 namespace fs = std::filesystem;
 using test::Fault_of;
 using test::Read_file;
+using test::RecordingMessageBox;
 using test::TemporaryFolder;
 using test::Write_file;
 

@@ -10,7 +10,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include "tests/data/Support.h"
+#include "tests/support/Files.h"
 
 namespace tarnvik {
 namespace {

@@ -5,7 +5,7 @@
 #include <memory>
 #include <sstream>
 
-#include "tests/data/Support.h"
+#include "tests/support/Files.h"
 
 namespace tarnvik {
 namespace {

@@ -7,12 +7,14 @@
 #include "calc/pass/Main_beregn.h"
 #include "data/SetupFile.h"
 #include "data/Tables.h"
-#include "tests/data/Support.h"
+#include "tests/support/Files.h"
+#include "tests/support/RecordingMessageBox.h"
 
 namespace tarnvik {
 namespace {
 
 namespace fs = std::filesystem;
+using test::RecordingMessageBox;
 using test::TemporaryFolder;
 using test::Write_file;
 

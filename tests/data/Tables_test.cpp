@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "data/Lines.h"
-#include "tests/data/Support.h"
+#include "tests/support/Files.h"
 
 namespace tarnvik {
 namespace {

@@ -6,9 +6,9 @@
 #include <cmath>
 
 #include "calc/pass/Main_beregn.h"
-#include "ports/MessageBox.h"
-#include "tests/calc/Support.h"
-#include "tests/detail/Support.h"
+#include "tests/support/Calculation.h"
+#include "tests/support/Painting.h"
+#include "tests/support/RecordingMessageBox.h"
 
 namespace tarnvik {
 namespace {
@@ -16,6 +16,7 @@ namespace {
 using test::Expect_pictures;
 using test::Expect_texts;
 using test::Lines;
+using test::RecordingMessageBox;
 
 // Values that can be told apart, as a pass might leave them.
 ConnectionValues Values(const char* lang, const char* Con_code) {
@@ -148,7 +149,7 @@ const Lines modes_double{
     {2, 36.5, "Rk(k) = "}, {77, 34, "="},   {79, 34, "24.00  kN"},
 };
 
-TEST(DetailedCalc, SingleShearWithBoltsOnlyInEnglish) {
+TEST(Detailed_calc, single_shear_with_bolts_only_in_English) {
     Expect_texts(
         Paint_detailed(Values("Eng", "1.1")),
         Strengths("Single shear :", "Calculation of k90 :", "Calculation of characteristic embedment strength fhk :") +
@@ -173,7 +174,7 @@ TEST(DetailedCalc, SingleShearWithBoltsOnlyInEnglish) {
             });
 }
 
-TEST(DetailedCalc, SingleShearWithConnectorsInNorwegian) {
+TEST(Detailed_calc, single_shear_with_connectors_in_Norwegian) {
     ConnectionValues s = Values("Nor", "1.1");
     With_connectors(s);
     s.Has_row = true;
@@ -211,7 +212,7 @@ TEST(DetailedCalc, SingleShearWithConnectorsInNorwegian) {
                                         });
 }
 
-TEST(DetailedCalc, DoubleShearWithConnectorsInEnglish) {
+TEST(Detailed_calc, double_shear_with_connectors_in_English) {
     ConnectionValues s = Values("Eng", "2.2");
     With_connectors(s);
     Expect_texts(Paint_detailed(s), Strengths("Double shear :", "Calculation of k90 :",
@@ -248,7 +249,7 @@ TEST(DetailedCalc, DoubleShearWithConnectorsInEnglish) {
                                         });
 }
 
-TEST(DetailedCalc, DoubleShearWithBoltsOnlyInNorwegian) {
+TEST(Detailed_calc, double_shear_with_bolts_only_in_Norwegian) {
     ConnectionValues s = Values("Nor", "3.3");
     s.Has_row = true;
     Expect_texts(Paint_detailed(s),
@@ -275,13 +276,13 @@ TEST(DetailedCalc, DoubleShearWithBoltsOnlyInNorwegian) {
                      });
 }
 
-TEST(DetailedCalc, CaptionByLanguage) {
+TEST(Detailed_calc, caption_by_language) {
     EXPECT_EQ(Paint_detailed(Values("Eng", "1.1")).caption, "Detailed calculations");
     EXPECT_EQ(Paint_detailed(Values("Nor", "1.1")).caption, "Detaljerte beregninger");
     EXPECT_EQ(Paint_detailed(Values("Deu", "1.1")).caption, "Detaljerte beregninger");
 }
 
-TEST(DetailedCalc, EquationsOfSingleShear) {
+TEST(Detailed_calc, equations_of_single_shear) {
     Expect_pictures(Paint_detailed(Values("Eng", "4.1")), {
                                                               {"Pic_r_a", "frmDetailed/Pic_r_a", 10, 57},
                                                               {"Pic_r_b", "frmDetailed/Pic_r_b", 9, 52},
@@ -292,7 +293,7 @@ TEST(DetailedCalc, EquationsOfSingleShear) {
                                                           });
 }
 
-TEST(DetailedCalc, EquationsOfDoubleShear) {
+TEST(Detailed_calc, equations_of_double_shear) {
     for (const char* code : {"4.2", "4.3"}) {
         Expect_pictures(Paint_detailed(Values("Nor", code)), {
                                                                  {"Pic_r_g", "frmDetailed/Pic_r_g", 10, 55},
@@ -313,7 +314,7 @@ std::vector<std::string> Texts_in(const Painting& painting, const std::string& l
     return found;
 }
 
-TEST(DetailedCalc, WarningColourOnlyAboveOne) {
+TEST(Detailed_calc, warning_colour_only_above_one) {
     ConnectionValues s = Values("Eng", "1.1");
     s.uf = 1.0F;
     EXPECT_EQ(Texts_in(Paint_detailed(s), "red"), std::vector<std::string>{});
@@ -324,7 +325,7 @@ TEST(DetailedCalc, WarningColourOnlyAboveOne) {
     EXPECT_EQ(Texts_in(Paint_detailed(s), "red"), std::vector<std::string>{});
 }
 
-TEST(DetailedCalc, CodeOfAnotherTypeHasNoThicknesses) {
+TEST(Detailed_calc, code_of_another_type_has_no_thicknesses) {
     ConnectionValues s = Values("Eng", "1.1");
     s.Con_type = 3;
     const Painting painting = Paint_detailed(s);
@@ -337,14 +338,14 @@ TEST(DetailedCalc, CodeOfAnotherTypeHasNoThicknesses) {
     EXPECT_EQ(painting.texts[9].text, "Top chord    :");
 }
 
-TEST(DetailedCalc, UnknownCodeHasNoLabels) {
+TEST(Detailed_calc, unknown_code_has_no_labels) {
     ConnectionValues s = Values("Nor", "1.1");
     s.Con_code = "9.9";
     EXPECT_EQ(Paint_detailed(s).texts[9].text, "α");
 }
 
 // Both members of all 15 codes, through the painting.
-TEST(DetailedCalc, LabelsAndNotesOfAllCodes) {
+TEST(Detailed_calc, labels_and_notes_of_all_codes) {
     struct Row {
         const char* code;
         const char* label1;
@@ -403,7 +404,7 @@ TEST(DetailedCalc, LabelsAndNotesOfAllCodes) {
     check("Nor", norwegian);
 }
 
-TEST(DetailedCalc, ShowsTheValuesOfTheLastPass) {
+TEST(Detailed_calc, shows_the_values_of_the_last_pass) {
     const auto s = test::New_project("Eng");
     RecordingMessageBox box;
     Run_pass(*s, nullptr, box);

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "tests/detail/Support.h"
+#include "tests/support/Painting.h"
 
 namespace tarnvik {
 namespace {
@@ -46,7 +46,7 @@ void Expect_words(const Painting& painting, double first_y, const std::vector<Pr
     }
 }
 
-TEST(Hjelpetext, CaptionsAndControls) {
+TEST(Hjelpetext, captions_and_controls) {
     struct Row {
         const char *name, *text_control, *frame, *eng, *nor;
     };
@@ -71,7 +71,7 @@ TEST(Hjelpetext, CaptionsAndControls) {
     EXPECT_EQ(Find_explanation("frm_tarn_vik"), nullptr);
 }
 
-TEST(Hjelpetext, LoadDurationInNorwegian) {
+TEST(Hjelpetext, load_duration_in_Norwegian) {
     Expect_words(Paint("frm_tarn_vik_lastvarighet", "Nor"), 95,
                  {
                      {2, "Definisjon av lastvarighetsklasser :", "bold"},
@@ -93,7 +93,7 @@ TEST(Hjelpetext, LoadDurationInNorwegian) {
                  });
 }
 
-TEST(Hjelpetext, LoadDurationInEnglish) {
+TEST(Hjelpetext, load_duration_in_English) {
     Expect_words(Paint("frm_tarn_vik_lastvarighet", "Eng"), 95,
                  {
                      {2, "Definition of Load-duration classes :", "bold"},
@@ -114,7 +114,7 @@ TEST(Hjelpetext, LoadDurationInEnglish) {
                  });
 }
 
-TEST(Hjelpetext, ServiceClassesInNorwegian) {
+TEST(Hjelpetext, service_classes_in_Norwegian) {
     Expect_words(Paint("frm_tarn_vik_klima", "Nor"), 95,
                  {
                      {2, "Definisjon av klimaklasser :", "bold"},
@@ -131,7 +131,7 @@ TEST(Hjelpetext, ServiceClassesInNorwegian) {
                  });
 }
 
-TEST(Hjelpetext, ServiceClassesInEnglish) {
+TEST(Hjelpetext, service_classes_in_English) {
     Expect_words(Paint("frm_tarn_vik_klima", "Eng"), 95,
                  {
                      {2, "Definition of service classes :", "bold"},
@@ -151,7 +151,7 @@ TEST(Hjelpetext, ServiceClassesInEnglish) {
                  });
 }
 
-TEST(Hjelpetext, MaterialFactorsAreNorwegianInBothLanguages) {
+TEST(Hjelpetext, material_factors_are_Norwegian_in_both_languages) {
     for (const char* lang : {"Eng", "Nor"}) {
         Expect_words(
             Paint("frm_tarn_vik_matfak", lang), 95,
@@ -179,7 +179,7 @@ TEST(Hjelpetext, MaterialFactorsAreNorwegianInBothLanguages) {
     }
 }
 
-TEST(Hjelpetext, EffectiveNumberInNorwegian) {
+TEST(Hjelpetext, effective_number_in_Norwegian) {
     const Painting painting = Paint("Frm_tarn_vik_effbolt", "Nor");
     Expect_words(painting, 96,
                  {
@@ -209,7 +209,7 @@ TEST(Hjelpetext, EffectiveNumberInNorwegian) {
     EXPECT_GT(painting.pictures[0].y - painting.pictures[0].h, painting.texts[4].y);
 }
 
-TEST(Hjelpetext, EffectiveNumberInEnglishSpeaksOfBoltsTwice) {
+TEST(Hjelpetext, effective_number_in_English_speaks_of_bolts_twice) {
     const Painting painting = Paint("Frm_tarn_vik_effbolt", "Eng");
     Expect_words(
         painting, 96,
@@ -254,7 +254,7 @@ void Expect_splitting_pictures(const Painting& painting, std::size_t before_form
     EXPECT_GT(figure.y - figure.h, painting.texts[beside_figure + 1].y);
 }
 
-TEST(Hjelpetext, SplittingInNorwegian) {
+TEST(Hjelpetext, splitting_in_Norwegian) {
     const Painting painting = Paint("Frm_tarn_vik_txt_tverr_brudd", "Nor");
     Expect_words(painting, 99,
                  {
@@ -282,7 +282,7 @@ TEST(Hjelpetext, SplittingInNorwegian) {
     Expect_splitting_pictures(painting, 4, 15);
 }
 
-TEST(Hjelpetext, SplittingInEnglish) {
+TEST(Hjelpetext, splitting_in_English) {
     const Painting painting = Paint("Frm_tarn_vik_txt_tverr_brudd", "Eng");
     Expect_words(painting, 99,
                  {

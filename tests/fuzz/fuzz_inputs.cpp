@@ -24,7 +24,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         Options options;
         options.with = {"screen"};
         for (const Json& object : inputs.is_array() ? inputs : Json::array({inputs})) {
-            RecordingMessageBox box;
+            MessageLog box;
             Set_inputs(*s, object);
             const PassResult result = Run_pass(*s, &screen, box);
             FUZZ_CHECK((result.end == PassEnd::fault) == result.fault.has_value());
@@ -56,7 +56,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         if (equals != std::string::npos) {
             try {
                 Set_input(*s, pair.substr(0, equals), pair.substr(equals + 1));
-                RecordingMessageBox box;
+                MessageLog box;
                 Run_pass(*s, nullptr, box);
             } catch (const UsageError& error) {
                 FUZZ_CHECK(!error.text.empty());

@@ -152,7 +152,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 
     // The pass runs after a failed opening as well.
     Screen screen;
-    RecordingMessageBox box;
+    MessageLog box;
     const PassResult result = Run_pass(*s, &screen, box);
     FUZZ_CHECK((result.end == PassEnd::fault) == result.fault.has_value());
     Options options;

@@ -8,6 +8,7 @@
 #include "data/SetupFile.h"
 #include "data/StartValue.h"
 #include "data/Tables.h"
+#include "tests/support/RecordingMessageBox.h"
 
 namespace {
 
@@ -24,7 +25,7 @@ void Use(ConnectionState& s) {
         return;
     }
     StartValue(s);
-    RecordingMessageBox box;
+    test::RecordingMessageBox box;
     Run_pass(s, nullptr, box);
 }
 

@@ -1,4 +1,4 @@
-#include "tests/report/Support.h"
+#include "tests/support/Report.h"
 
 namespace tarnvik {
 namespace {

@@ -7,7 +7,7 @@
 #include <nlohmann/json.hpp>
 
 #include "check/Inputs.h"
-#include "tests/report/Support.h"
+#include "tests/support/Report.h"
 
 namespace tarnvik {
 namespace {

@@ -1,4 +1,5 @@
-#include "tests/report/Support.h"
+#include "tests/support/OutOfPaper.h"
+#include "tests/support/Report.h"
 
 namespace tarnvik {
 namespace {
@@ -83,36 +84,9 @@ TEST(PrintReport, numbers_follow_the_decimal_sign) {
     EXPECT_TRUE(Printed(report, "1.35 + 0.015 x 20  =")) << "a text, not a number";
 }
 
-// A target that fails at its nth text.
 TEST(PrintReport, a_failing_target_ends_the_print_where_it_fails) {
-    class OutOfPaper final : public PrintTarget {
-    public:
-        void ScaleLeft(float /*x*/) override {}
-        void ScaleTop(float /*y*/) override {}
-        void ScaleWidth(float /*width*/) override {}
-        void ScaleHeight(float /*height*/) override {}
-        void CurrentX(float /*x*/) override {}
-        void CurrentY(float /*y*/) override {}
-        void FontName(std::string_view /*name*/) override {}
-        void FontSize(float /*points*/) override {}
-        void FontBold(bool /*on*/) override {}
-        void FontItalic(bool /*on*/) override {}
-        void DrawWidth(std::int16_t /*pixels*/) override {}
-        void Line(float /*x1*/, float /*y1*/, float /*x2*/, float /*y2*/) override {}
-        void PaintPicture(std::string_view /*picture*/, float /*x*/, float /*y*/, float /*width*/,
-                          float /*height*/) override {}
-        float TextWidth(std::string_view /*text*/) override { return 0.0F; }
-        void Print(std::string_view /*text*/) override {
-            if (++texts == 30) {
-                Raise(fault_path_access, "Print");
-            }
-        }
-        void NewPage() override { ADD_FAILURE() << "it went on"; }
-        void EndDoc() override { ADD_FAILURE() << "it ended the document"; }
-        int texts{};
-    };
     Connection connection;
-    OutOfPaper target;
+    OutOfPaper target{30};
     SpacingTexts texts;
     EXPECT_EQ(Fault_of([&] { PrintReport(target, *connection.s, connection.Pictures(), moment, texts); }),
               fault_path_access);

@@ -1,6 +1,6 @@
 #include "report/Recorder.h"
 
-#include "tests/report/Support.h"
+#include "tests/support/Report.h"
 
 namespace tarnvik {
 namespace {

@@ -1,5 +1,5 @@
 #include "spacing/Catalogue.h"
-#include "tests/report/Support.h"
+#include "tests/support/Report.h"
 
 namespace tarnvik {
 namespace {

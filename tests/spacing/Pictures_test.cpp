@@ -7,12 +7,14 @@
 
 #include "calc/pass/Main_beregn.h"
 #include "spacing/Plot_screen.h"
-#include "tests/calc/Support.h"
+#include "tests/support/Calculation.h"
+#include "tests/support/RecordingMessageBox.h"
 
 namespace tarnvik {
 namespace {
 
 using test::New_project;
+using test::RecordingMessageBox;
 
 struct CaseControl {
     std::string_view Case_code;

@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "spacing/Catalogue.h"
-#include "tests/spacing/Record_hash.h"
+#include "tests/support/Record_hash.h"
 
 namespace tarnvik {
 namespace {

@@ -10,12 +10,14 @@
 #include "spacing/Catalogue.h"
 #include "spacing/Plot_screen.h"
 #include "spacing/Rules.h"
-#include "tests/calc/Support.h"
+#include "tests/support/Calculation.h"
+#include "tests/support/RecordingMessageBox.h"
 
 namespace tarnvik {
 namespace {
 
 using test::New_project;
+using test::RecordingMessageBox;
 using Table = std::vector<PositionedText>;
 using Lines = std::vector<std::string>;
 

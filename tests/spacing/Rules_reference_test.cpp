@@ -6,7 +6,7 @@
 #include <fstream>
 
 #include "spacing/Catalogue.h"
-#include "tests/spacing/Record_hash.h"
+#include "tests/support/Record_hash.h"
 
 namespace tarnvik {
 namespace {

@@ -5,7 +5,7 @@
 #include <cmath>
 
 #include "spacing/Catalogue.h"
-#include "tests/spacing/Record_hash.h"
+#include "tests/support/Record_hash.h"
 
 namespace tarnvik {
 namespace {

@@ -31,8 +31,9 @@
 #include "frontend/controls/Areas.h"
 #include "frontend/controls/Controls.h"
 #include "frontend/main/frmMain.h"
-#include "tests/data/Support.h"
 #include "tests/support/Fakes.h"
+#include "tests/support/Files.h"
+#include "tests/support/MemorySettingsStore.h"
 
 namespace tarnvik::test {
 

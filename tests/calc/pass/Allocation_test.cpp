@@ -7,7 +7,8 @@
 
 #include "calc/pass/Main_beregn.h"
 #include "spacing/Catalogue.h"
-#include "tests/calc/Support.h"
+#include "tests/support/Calculation.h"
+#include "tests/support/RecordingMessageBox.h"
 
 namespace {
 
@@ -53,7 +54,7 @@ TEST(Allocation, the_count_counts) {
 
 TEST(Allocation, a_pass_on_the_state_allocates_nothing) {
     const auto s = test::New_project();
-    RecordingMessageBox box;
+    test::RecordingMessageBox box;
     test::Pick_connector(*s, 1);
     s->Bolt_index = 1; // M16x4.6 fits D62
     s->Prof1_index = 120;

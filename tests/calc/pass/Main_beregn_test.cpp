@@ -7,7 +7,8 @@
 #include <functional>
 
 #include "spacing/Catalogue.h"
-#include "tests/calc/Support.h"
+#include "tests/support/Calculation.h"
+#include "tests/support/RecordingMessageBox.h"
 
 namespace tarnvik {
 namespace {
@@ -15,6 +16,7 @@ namespace {
 using test::New_project;
 using test::Pick_connector;
 using test::Pick_variant;
+using test::RecordingMessageBox;
 
 // One project with its screen, as the window holds them.
 struct Desk {

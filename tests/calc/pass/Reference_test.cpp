@@ -14,8 +14,9 @@
 #include "calc/Splitting.h"
 #include "calc/StateFields.h"
 #include "calc/pass/Main_beregn.h"
-#include "tests/calc/Support.h"
-#include "tests/spacing/Record_hash.h"
+#include "tests/support/Calculation.h"
+#include "tests/support/Record_hash.h"
+#include "tests/support/RecordingMessageBox.h"
 
 namespace tarnvik {
 namespace {
@@ -23,6 +24,7 @@ namespace {
 using json = nlohmann::ordered_json; // keeps the order in which inputs are written
 using test::Bits;
 using test::Fnv1a;
+using test::RecordingMessageBox;
 
 std::vector<json> Lines(const char* file) {
     std::ifstream in{std::string{TARNVIK_SOURCE_DIR "/tests/reference/"} + file, std::ios::binary};

@@ -59,7 +59,7 @@ const std::vector<Place> places{
     {"Fra_av_bulldog_verdier", {"Pic_av_bulldog_dif"}},
 };
 
-TEST_F(Controls, EveryOneStandsInItsFrame) {
+TEST_F(Controls, every_one_stands_in_its_frame) {
     Start();
     EXPECT_EQ(window->objectName(), QStringLiteral("frmMain"));
     for (const Place& place : places) {
@@ -72,7 +72,7 @@ TEST_F(Controls, EveryOneStandsInItsFrame) {
     }
 }
 
-TEST_F(Controls, TextsThatNoLanguageWrites) {
+TEST_F(Controls, texts_that_no_language_writes) {
     for (const char* lang : {"Eng", "Nor"}) {
         Start(lang);
         EXPECT_EQ(Text("fra_input"), "Input");
@@ -97,7 +97,7 @@ TEST_F(Controls, TextsThatNoLanguageWrites) {
     }
 }
 
-TEST_F(Controls, FixedLists) {
+TEST_F(Controls, fixed_lists) {
     Start("Eng");
     const auto items = [this](const char* name) {
         std::vector<std::string> all;
@@ -124,7 +124,7 @@ TEST_F(Controls, FixedLists) {
     EXPECT_EQ(items("cboProf1").back(), s.Prof[static_cast<std::size_t>(s.Prof1_count)].Id);
 }
 
-TEST_F(Controls, TheMenuBarInItsOrder) {
+TEST_F(Controls, the_menu_bar_in_its_order) {
     Start("Eng");
     std::vector<std::string> names;
     for (const QAction* action : window->menuBar()->actions()) {
@@ -148,7 +148,7 @@ TEST_F(Controls, TheMenuBarInItsOrder) {
     EXPECT_TRUE(Find<QAction>("mnurecentfile(4)").isSeparator());
 }
 
-TEST_F(Controls, TheMenusAsBuilt) {
+TEST_F(Controls, the_menus_as_built) {
     window = std::make_unique<frmMain>(s, Services{boxes, dialogs, opener, settings, printer, clock}, folder.Path());
     EXPECT_EQ(Text("mnufile"), "&File");
     EXPECT_EQ(Text("mnuFileItem(1)"), "&Åpne");
@@ -164,7 +164,7 @@ TEST_F(Controls, TheMenusAsBuilt) {
     EXPECT_EQ(Text("mnuabout"), "&Om Tarnvik");
 }
 
-TEST_F(Controls, EveryBoxAndEveryPictureHasAnAccessibleName) {
+TEST_F(Controls, every_box_and_every_picture_has_an_accessible_name) {
     Start("Eng");
     for (const char* picture : {"Pic_forbindelse", "Pic_av_bolter", "Pic_av_bulldog", "Cmd_type(0)", "Cmd_type(1)",
                                 "Cmd_type(2)", "Cmd_type(3)", "Cmd_type(4)"}) {
@@ -188,7 +188,7 @@ TEST_F(Controls, EveryBoxAndEveryPictureHasAnAccessibleName) {
     }
 }
 
-TEST_F(Controls, TheTabKeyGoesThroughTheWindowInReadingOrder) {
+TEST_F(Controls, the_tab_key_goes_through_the_window_in_reading_order) {
     Start("Eng");
     Click("Opt_valg"); // with the free entry, without the lists of sections
     Find("txtprosjekt").setFocus();

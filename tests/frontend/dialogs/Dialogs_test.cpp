@@ -12,7 +12,7 @@ protected:
     static std::string Text_in(QWidget& dialog, const char* name) { return Text_of(Find_in<QObject>(dialog, name)); }
 };
 
-TEST_F(Dialogs, AnyOfThemGivesTheFocusToTheProjectName) {
+TEST_F(Dialogs, any_of_them_gives_the_focus_to_the_project_name) {
     Start();
     for (const char* entry : {"mnuklasse", "mnusetup", "mnuabout"}) {
         Click("Txt_last");
@@ -25,7 +25,7 @@ TEST_F(Dialogs, AnyOfThemGivesTheFocusToTheProjectName) {
 }
 
 // The box in editing is left before the dialog comes up, so that nothing typed is lost to a pass of the dialog.
-TEST_F(Dialogs, TakeWhatIsBeingTyped) {
+TEST_F(Dialogs, take_what_is_being_typed) {
     Start();
     Type("txtprosjekt", "Half typed");
     Menu("mnuklasse", [](QWidget& dialog) { Click(Find_in<QWidget>(dialog, "Opt_klimaklasse(2)")); });
@@ -35,7 +35,7 @@ TEST_F(Dialogs, TakeWhatIsBeingTyped) {
     Menu("mnusetup", [this](QWidget& /*dialog*/) { EXPECT_EQ(s.P, 31.0F); });
 }
 
-TEST_F(Dialogs, DoNotOpenOverARefusedBox) {
+TEST_F(Dialogs, do_not_open_over_a_refused_box) {
     Start();
     Type("Txt_last", "0");
     Menu("mnuklasse");
@@ -48,7 +48,7 @@ TEST_F(Dialogs, DoNotOpenOverARefusedBox) {
 
 // Classes
 
-TEST_F(Dialogs, ClassesShowThoseOfTheStateWithoutAPass) {
+TEST_F(Dialogs, classes_show_those_of_the_state_without_a_pass) {
     Start();
     s.Lastvar = 4;
     s.Klima = 2;
@@ -68,7 +68,7 @@ TEST_F(Dialogs, ClassesShowThoseOfTheStateWithoutAPass) {
     });
 }
 
-TEST_F(Dialogs, EachClickOnAClassCalculatesBehindTheDialog) {
+TEST_F(Dialogs, each_click_on_a_class_calculates_behind_the_dialog) {
     Start();
     const char* const kmod[5][2] = {
         {"0.60 ", "0.50 "}, {"0.70 ", "0.55 "}, {"0.80 ", "0.65 "}, {"0.90 ", "0.70 "}, {"1.10 ", "0.90 "}};
@@ -95,7 +95,7 @@ TEST_F(Dialogs, EachClickOnAClassCalculatesBehindTheDialog) {
     });
 }
 
-TEST_F(Dialogs, AClassStaysWhenTheDialogIsClosedByItsWindowButton) {
+TEST_F(Dialogs, a_class_stays_when_the_dialog_is_closed_by_its_window_button) {
     Start();
     Menu("mnuklasse", [](QWidget& dialog) {
         Click(Find_in<QWidget>(dialog, "Opt_Lastvarighet(4)"));
@@ -105,7 +105,7 @@ TEST_F(Dialogs, AClassStaysWhenTheDialogIsClosedByItsWindowButton) {
     EXPECT_EQ(Text("Lbl_lastvar_2"), "Instantaneous action");
 }
 
-TEST_F(Dialogs, ClassesDoNothingWhileLoading) {
+TEST_F(Dialogs, classes_do_nothing_while_loading) {
     Start();
     Menu("mnuklasse", [this](QWidget& dialog) {
         s.Loading = true;
@@ -118,7 +118,7 @@ TEST_F(Dialogs, ClassesDoNothingWhileLoading) {
     EXPECT_EQ(passes, 0);
 }
 
-TEST_F(Dialogs, ClassesAreLaidOutByTheMainWindow) {
+TEST_F(Dialogs, classes_are_laid_out_by_the_main_window) {
     Start();
     Menu("mnuklasse", [this](QWidget& dialog) {
         const double w = 0.34 * window->width();
@@ -175,7 +175,7 @@ void Type_in(QWidget& dialog, const char* name, const char* text) {
     Settle();
 }
 
-TEST_F(Dialogs, SetupHasItsControlsAndShowsTheFactors) {
+TEST_F(Dialogs, setup_has_its_controls_and_shows_the_factors) {
     Start();
     Menu("mnusetup", [this](QWidget& dialog) {
         EXPECT_EQ(dialog.objectName(), QStringLiteral("frmSetup"));
@@ -198,7 +198,7 @@ TEST_F(Dialogs, SetupHasItsControlsAndShowsTheFactors) {
     EXPECT_EQ(passes, 0);
 }
 
-TEST_F(Dialogs, AFactorIsAcceptedOnLeavingItsBox) {
+TEST_F(Dialogs, a_factor_is_accepted_on_leaving_its_box) {
     Start();
     Menu("mnusetup", [this](QWidget& dialog) {
         Click(Find_in<QWidget>(dialog, factor_boxes[0]));
@@ -221,7 +221,7 @@ TEST_F(Dialogs, AFactorIsAcceptedOnLeavingItsBox) {
     });
 }
 
-TEST_F(Dialogs, TheEnterKeyGoesRoundTheFactors) {
+TEST_F(Dialogs, the_enter_key_goes_round_the_factors) {
     Start();
     Menu("mnusetup", [this](QWidget& dialog) {
         Click(Find_in<QWidget>(dialog, factor_boxes[0]));
@@ -235,7 +235,7 @@ TEST_F(Dialogs, TheEnterKeyGoesRoundTheFactors) {
     });
 }
 
-TEST_F(Dialogs, AFactorOfATenthOrLessIsRefusedWithItsTextFormatted) {
+TEST_F(Dialogs, a_factor_of_a_tenth_or_less_is_refused_with_its_text_formatted) {
     for (const char* lang : {"Eng", "Nor"}) {
         Start(lang);
         boxes.messages.clear();
@@ -265,7 +265,7 @@ TEST_F(Dialogs, AFactorOfATenthOrLessIsRefusedWithItsTextFormatted) {
     }
 }
 
-TEST_F(Dialogs, OkOfTheSetupDoesNotActOverARefusedFactor) {
+TEST_F(Dialogs, ok_of_the_setup_does_not_act_over_a_refused_factor) {
     Start();
     Menu("mnusetup", [this](QWidget& dialog) {
         Type_in(dialog, "Txt_gamma_timb", "0");
@@ -284,7 +284,7 @@ TEST_F(Dialogs, OkOfTheSetupDoesNotActOverARefusedFactor) {
     EXPECT_EQ(boxes.messages.size(), 1U);
 }
 
-TEST_F(Dialogs, OkKeepsTheSetupAndCalculates) {
+TEST_F(Dialogs, ok_keeps_the_setup_and_calculates) {
     Start();
     Menu("mnusetup", [this](QWidget& dialog) {
         Type_in(dialog, "Txt_gamma_timb", "1.5");
@@ -299,7 +299,7 @@ TEST_F(Dialogs, OkKeepsTheSetupAndCalculates) {
     EXPECT_EQ(Text("lbl_gm"), "1.50 ");
 }
 
-TEST_F(Dialogs, TheWindowButtonSkipsTheSetupRecordButKeepsTheChanges) {
+TEST_F(Dialogs, the_window_button_skips_the_setup_record_but_keeps_the_changes) {
     Start();
     Menu("mnusetup", [](QWidget& dialog) {
         Type_in(dialog, "Txt_gamma_timb", "1.5");
@@ -312,7 +312,7 @@ TEST_F(Dialogs, TheWindowButtonSkipsTheSetupRecordButKeepsTheChanges) {
     EXPECT_EQ(s.Setup.Language, "Eng");
 }
 
-TEST_F(Dialogs, ClosingTheSetupWithARefusableFactorTellsNothing) {
+TEST_F(Dialogs, closing_the_setup_with_a_refusable_factor_tells_nothing) {
     Start();
     Menu("mnusetup", [this](QWidget& dialog) {
         Type_in(dialog, "Txt_gamma_timb", "0");
@@ -323,7 +323,7 @@ TEST_F(Dialogs, ClosingTheSetupWithARefusableFactorTellsNothing) {
     EXPECT_EQ(s.gm_T, 1.3F);
 }
 
-TEST_F(Dialogs, SaveToFileWritesTheOtherFileAndStaysOpen) {
+TEST_F(Dialogs, save_to_file_writes_the_other_file_and_stays_open) {
     Start();
     const std::string read_at_start = Read_file(folder / "Tarnviksetup.csv");
     Menu("mnusetup", [](QWidget& dialog) {
@@ -339,7 +339,7 @@ TEST_F(Dialogs, SaveToFileWritesTheOtherFileAndStaysOpen) {
     EXPECT_TRUE(boxes.messages.empty());
 }
 
-TEST_F(Dialogs, AFaultInThePassOfAFactorLeavesTheDialogUsable) {
+TEST_F(Dialogs, a_fault_in_the_pass_of_a_factor_leaves_the_dialog_usable) {
     Start();
     Pick("cboProf2", 12); // T  45x45: lower than its distances
     Answer();
@@ -357,7 +357,7 @@ TEST_F(Dialogs, AFaultInThePassOfAFactorLeavesTheDialogUsable) {
 
 // About
 
-TEST_F(Dialogs, AboutInBothLanguages) {
+TEST_F(Dialogs, about_in_both_languages) {
     for (const bool english : {true, false}) {
         Start(english ? "Eng" : "Nor");
         Menu("mnuabout", [english](QWidget& dialog) {
@@ -391,7 +391,7 @@ TEST_F(Dialogs, AboutInBothLanguages) {
     }
 }
 
-TEST_F(Dialogs, TheLinksOfAboutOpenAndAFailureIsTold) {
+TEST_F(Dialogs, the_links_of_about_open_and_a_failure_is_told) {
     Start();
     Menu("mnuabout", [this](QWidget& dialog) {
         std::vector<QLabel*> lines;
@@ -419,7 +419,7 @@ TEST_F(Dialogs, TheLinksOfAboutOpenAndAFailureIsTold) {
 
 // Manual and end
 
-TEST_F(Dialogs, TheManualIsOpenedFromTheProgramsFolder) {
+TEST_F(Dialogs, the_manual_is_opened_from_the_programs_folder) {
     Start();
     std::filesystem::create_directory(folder / "Documentation");
     const std::filesystem::path manual = folder / "Documentation" / "Tarnvik User & Theory Manual.pdf";
@@ -429,14 +429,14 @@ TEST_F(Dialogs, TheManualIsOpenedFromTheProgramsFolder) {
     EXPECT_TRUE(boxes.messages.empty());
 }
 
-TEST_F(Dialogs, AManualThatCannotBeOpenedIsTold) {
+TEST_F(Dialogs, a_manual_that_cannot_be_opened_is_told) {
     Start();
     Menu("mmuTheory");
     ASSERT_EQ(boxes.messages.size(), 1U);
     EXPECT_EQ(boxes.messages[0].style, 48);
 }
 
-TEST_F(Dialogs, ExitAndTheWindowButtonEndWithoutAQuestion) {
+TEST_F(Dialogs, exit_and_the_window_button_end_without_a_question) {
     Start();
     int unloaded = 0;
     QObject::connect(window.get(), &frmMain::Unloaded, window.get(), [&unloaded] { ++unloaded; });
@@ -453,7 +453,7 @@ TEST_F(Dialogs, ExitAndTheWindowButtonEndWithoutAQuestion) {
     EXPECT_TRUE(boxes.messages.empty());
 }
 
-TEST_F(Dialogs, TheDatabaseEntryDoesNothing) {
+TEST_F(Dialogs, the_database_entry_does_nothing) {
     Start();
     Menu("mnuDatabase");
     EXPECT_EQ(QApplication::activeModalWidget(), nullptr);

@@ -68,7 +68,7 @@ protected:
     }
 };
 
-TEST_F(Explanations, DetailedCalculationsOpenAndClose) {
+TEST_F(Explanations, detailed_calculations_open_and_close) {
     Start("Eng");
     Open("Cmd_detail", [this](QWidget& dialog) {
         EXPECT_EQ(dialog.objectName(), "frmDetailed");
@@ -82,7 +82,7 @@ TEST_F(Explanations, DetailedCalculationsOpenAndClose) {
     EXPECT_EQ(Focus(), "txtprosjekt");
 }
 
-TEST_F(Explanations, DetailedCalculationsHaveTheirPlaces) {
+TEST_F(Explanations, detailed_calculations_have_their_places) {
     Start("Eng");
     Open("Cmd_detail", [this](QWidget& dialog) {
         Expect_size(dialog, 0.65, 1.0);
@@ -109,7 +109,7 @@ TEST_F(Explanations, DetailedCalculationsHaveTheirPlaces) {
     });
 }
 
-TEST_F(Explanations, EquationsGoByTheShear) {
+TEST_F(Explanations, equations_go_by_the_shear) {
     Start("Nor");
     Open("Cmd_detail", [](QWidget& dialog) {
         EXPECT_EQ(Text_of(dialog), "Detaljerte beregninger");
@@ -121,7 +121,7 @@ TEST_F(Explanations, EquationsGoByTheShear) {
     Open("Cmd_detail", [](QWidget& dialog) { EXPECT_EQ(Shown_equations(dialog), "abcdef"); });
 }
 
-TEST_F(Explanations, EachOpeningPaintsAfresh) {
+TEST_F(Explanations, each_opening_paints_afresh) {
     Start("Eng");
     std::vector<std::string> first;
     Open("Cmd_detail",
@@ -134,7 +134,7 @@ TEST_F(Explanations, EachOpeningPaintsAfresh) {
     });
 }
 
-TEST_F(Explanations, OfTheEffectiveNumber) {
+TEST_F(Explanations, of_the_effective_number) {
     Start("Eng");
     Open("Cmd_Bolt_eff_bolt", [this](QWidget& dialog) {
         EXPECT_EQ(dialog.objectName(), "Frm_tarn_vik_effbolt");
@@ -152,7 +152,7 @@ TEST_F(Explanations, OfTheEffectiveNumber) {
     EXPECT_EQ(passes, 0);
 }
 
-TEST_F(Explanations, OfTheSplittingCheck) {
+TEST_F(Explanations, of_the_splitting_check) {
     Start("Nor");
     Open("Cmd_tverr", [this](QWidget& dialog) {
         EXPECT_EQ(dialog.objectName(), "Frm_tarn_vik_txt_tverr_brudd");
@@ -167,7 +167,7 @@ TEST_F(Explanations, OfTheSplittingCheck) {
     });
 }
 
-TEST_F(Explanations, OfTheClassesOpenFromTheirDialog) {
+TEST_F(Explanations, of_the_classes_open_from_their_dialog) {
     Start("Eng");
     struct Row {
         const char *button, *name, *caption, *area, *heading;
@@ -195,7 +195,7 @@ TEST_F(Explanations, OfTheClassesOpenFromTheirDialog) {
     EXPECT_EQ(passes, 0);
 }
 
-TEST_F(Explanations, OfTheMaterialFactorsExistWithoutAButton) {
+TEST_F(Explanations, of_the_material_factors_exist_without_a_button) {
     Start("Eng");
     ExplanationForm dialog{*window, *window, window->Work(), "frm_tarn_vik_matfak"};
     dialog.show();
@@ -208,7 +208,7 @@ TEST_F(Explanations, OfTheMaterialFactorsExistWithoutAButton) {
               "Definisjon av materialfaktorer :");
 }
 
-TEST_F(Explanations, StandAsTheyAreWhenTheLanguageChanges) {
+TEST_F(Explanations, stand_as_they_are_when_the_language_changes) {
     Start("Eng");
     ExplanationForm dialog{*window, *window, window->Work(), "frm_tarn_vik_klima"};
     dialog.show();
@@ -222,7 +222,7 @@ TEST_F(Explanations, StandAsTheyAreWhenTheLanguageChanges) {
     EXPECT_EQ(Text_of(dialog), "Klimaklasse");
 }
 
-TEST_F(Explanations, UnknownNameIsToldByName) {
+TEST_F(Explanations, unknown_name_is_told_by_name) {
     Start("Eng");
     EXPECT_THROW((ExplanationForm{*window, *window, window->Work(), "frm_tarn_vik_nothing"}), std::logic_error);
 }

@@ -138,7 +138,7 @@ protected:
     }
 };
 
-TEST_F(PaintedWalk, ExplanationsInBothLanguages) {
+TEST_F(PaintedWalk, explanations_in_both_languages) {
     Start();
     for (const char* lang : {"Eng", "Nor"}) {
         s.Lang = lang;
@@ -149,7 +149,7 @@ TEST_F(PaintedWalk, ExplanationsInBothLanguages) {
     }
 }
 
-TEST_F(PaintedWalk, DetailedCalculationsOfAllConnections) {
+TEST_F(PaintedWalk, detailed_calculations_of_all_connections) {
     Start();
     const auto highest = [this](int count) {
         int best = 0;

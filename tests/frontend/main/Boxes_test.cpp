@@ -42,7 +42,7 @@ protected:
     }
 };
 
-TEST_F(Boxes, ATypedNumberIsAcceptedOnLeaving) {
+TEST_F(Boxes, a_typed_number_is_accepted_on_leaving) {
     Start_free();
     for (const NumberBox& row : number_boxes) {
         SCOPED_TRACE(row.box);
@@ -63,7 +63,7 @@ TEST_F(Boxes, ATypedNumberIsAcceptedOnLeaving) {
 }
 
 // The handler writes the text in the box's format before the pass, and the pass on free entry reads what stands there.
-TEST_F(Boxes, ThePassReadsTheFormattedTextOfAFreeEntry) {
+TEST_F(Boxes, the_pass_reads_the_formatted_text_of_a_free_entry) {
     Start_free();
     Enter_value("Txt_h1", "150.256");
     EXPECT_EQ(s.h1, 150.26F); // two decimals
@@ -74,7 +74,7 @@ TEST_F(Boxes, ThePassReadsTheFormattedTextOfAFreeEntry) {
     EXPECT_EQ(s.h2, 150.3F); // one decimal
 }
 
-TEST_F(Boxes, EnteringTurnsABoxGreenWithAllItsTextSelectedByTheMouse) {
+TEST_F(Boxes, entering_turns_a_box_green_with_all_its_text_selected_by_the_mouse) {
     Start_free();
     for (const char* name : {"Txt_h1", "Txt_b1", "Txt_h2", "Txt_b2", "Txt_last", "Txt_alp", "txtprosjekt", "txtid"}) {
         Click(name);
@@ -83,7 +83,7 @@ TEST_F(Boxes, EnteringTurnsABoxGreenWithAllItsTextSelectedByTheMouse) {
     }
 }
 
-TEST_F(Boxes, EnteringTurnsABoxGreenWithAllItsTextSelectedByTheKeys) {
+TEST_F(Boxes, entering_turns_a_box_green_with_all_its_text_selected_by_the_keys) {
     Start_free();
     Click("Txt_h1");
     for (const char* name : {"Txt_b1", "Txt_h2", "Txt_b2"}) {
@@ -94,7 +94,7 @@ TEST_F(Boxes, EnteringTurnsABoxGreenWithAllItsTextSelectedByTheKeys) {
     }
 }
 
-TEST_F(Boxes, ASecondClickInABoxPlacesTheCursor) {
+TEST_F(Boxes, a_second_click_in_a_box_places_the_cursor) {
     Start_free();
     Click("Txt_last");
     auto& box = Box("Txt_last");
@@ -105,7 +105,7 @@ TEST_F(Boxes, ASecondClickInABoxPlacesTheCursor) {
     EXPECT_EQ(Text("Txt_last"), "210.0");
 }
 
-TEST_F(Boxes, EveryRefusalInEnglish) {
+TEST_F(Boxes, every_refusal_in_English) {
     Start_free();
     for (const NumberBox& row : number_boxes) {
         SCOPED_TRACE(row.box);
@@ -131,7 +131,7 @@ TEST_F(Boxes, EveryRefusalInEnglish) {
     }
 }
 
-TEST_F(Boxes, EveryRefusalInNorwegian) {
+TEST_F(Boxes, every_refusal_in_Norwegian) {
     Start_free("Nor");
     for (const NumberBox& row : number_boxes) {
         SCOPED_TRACE(row.box);
@@ -151,7 +151,7 @@ TEST_F(Boxes, EveryRefusalInNorwegian) {
     }
 }
 
-TEST_F(Boxes, ATextWithoutANumberReadsAsZero) {
+TEST_F(Boxes, a_text_without_a_number_reads_as_zero) {
     Start_free();
     for (const char* text : {"abc", "", "-", "."}) {
         boxes.messages.clear();
@@ -165,7 +165,7 @@ TEST_F(Boxes, ATextWithoutANumberReadsAsZero) {
     EXPECT_EQ(Text("Txt_last"), "12.00");
 }
 
-TEST_F(Boxes, AGoodValueIsCalculatedAgainChangedOrNot) {
+TEST_F(Boxes, a_good_value_is_calculated_again_changed_or_not) {
     Start_free();
     Click("Txt_last");
     Key(Qt::Key_Tab);
@@ -173,7 +173,7 @@ TEST_F(Boxes, AGoodValueIsCalculatedAgainChangedOrNot) {
     EXPECT_EQ(Text("Txt_last"), "10.00");
 }
 
-TEST_F(Boxes, WithoutALanguageNoMessageIsShown) {
+TEST_F(Boxes, without_a_language_no_message_is_shown) {
     Start_free();
     s.Lang = "";
     Enter_value("Txt_last", "0");
@@ -184,7 +184,7 @@ TEST_F(Boxes, WithoutALanguageNoMessageIsShown) {
 }
 
 // The click that leaves a box with a good value does both, once each: the value first.
-TEST_F(Boxes, TheClickThatLeavesAnAcceptedBoxActs) {
+TEST_F(Boxes, the_click_that_leaves_an_accepted_box_acts) {
     Start_free();
     Type("Txt_last", "11");
     passes = 0;
@@ -219,7 +219,7 @@ TEST_F(Boxes, TheClickThatLeavesAnAcceptedBoxActs) {
     EXPECT_TRUE(boxes.messages.empty());
 }
 
-TEST_F(Boxes, AMismatchIsToldInBothLanguagesAndNoOtherError) {
+TEST_F(Boxes, a_mismatch_is_told_in_both_languages_and_no_other_error) {
     for (const char* lang : {"Eng", "Nor"}) {
         Start(lang);
         boxes.messages.clear();
@@ -238,7 +238,7 @@ TEST_F(Boxes, AMismatchIsToldInBothLanguagesAndNoOtherError) {
 }
 
 // The click that leaves a refused box does not act; the box gets the focus back, and everything works again.
-TEST_F(Boxes, TheClickThatLeftARefusedBoxDoesNotAct) {
+TEST_F(Boxes, the_click_that_left_a_refused_box_does_not_act) {
     Start_free();
     Type("Txt_last", "0");
     Click("Cmd_type(3)");
@@ -254,7 +254,7 @@ TEST_F(Boxes, TheClickThatLeftARefusedBoxDoesNotAct) {
     EXPECT_EQ(boxes.messages.size(), 1U);
 }
 
-TEST_F(Boxes, AListAndAnOptionAfterARefusalDoNotActEither) {
+TEST_F(Boxes, a_list_and_an_option_after_a_refusal_do_not_act_either) {
     Start_free();
     Type("Txt_last", "0");
     Click("cboMat");
@@ -269,7 +269,7 @@ TEST_F(Boxes, AListAndAnOptionAfterARefusalDoNotActEither) {
 }
 
 // From one box into another: one refusal, one message, and the other box was never entered.
-TEST_F(Boxes, GoingFromARefusedBoxIntoAnotherGivesOneMessage) {
+TEST_F(Boxes, going_from_a_refused_box_into_another_gives_one_message) {
     Start_free();
     Type("Txt_h1", "0");
     Click("Txt_last");
@@ -283,7 +283,7 @@ TEST_F(Boxes, GoingFromARefusedBoxIntoAnotherGivesOneMessage) {
     EXPECT_EQ(passes, 0);
 }
 
-TEST_F(Boxes, InEnglishB1LetsTheFocusGoToTheBoxThatWasMeant) {
+TEST_F(Boxes, in_English_b1_lets_the_focus_go_to_the_box_that_was_meant) {
     Start_free();
     Type("Txt_b1", "0");
     Click("Txt_h2");
@@ -308,7 +308,7 @@ TEST_F(Boxes, InEnglishB1LetsTheFocusGoToTheBoxThatWasMeant) {
     EXPECT_EQ(Back("Txt_b1"), white);
 }
 
-TEST_F(Boxes, ARefusedValueStaysInTheStateForOtherInputs) {
+TEST_F(Boxes, a_refused_value_stays_in_the_state_for_other_inputs) {
     Start_free();
     Enter_value("Txt_last", "-5");
     Answer();
@@ -320,7 +320,7 @@ TEST_F(Boxes, ARefusedValueStaysInTheStateForOtherInputs) {
     EXPECT_EQ(Focus(), "Txt_last");
 }
 
-TEST_F(Boxes, TheOrderOfTheEnterKey) {
+TEST_F(Boxes, the_order_of_the_enter_key) {
     Start_free();
     Click("Txt_h1");
     for (const char* next : {"Txt_b1", "Txt_h2", "Txt_b2", "Pic_Dim"}) {
@@ -338,7 +338,7 @@ TEST_F(Boxes, TheOrderOfTheEnterKey) {
     EXPECT_EQ(Back("Txt_alp"), green);
 }
 
-TEST_F(Boxes, EnterDoesNothingInTheOtherBoxes) {
+TEST_F(Boxes, enter_does_nothing_in_the_other_boxes) {
     Start_free();
     Click("Check_man");
     for (const char* name : {"Txt_alp", "txtprosjekt", "txtid", "Txt_man_he"}) {
@@ -351,7 +351,7 @@ TEST_F(Boxes, EnterDoesNothingInTheOtherBoxes) {
     }
 }
 
-TEST_F(Boxes, EnterMovesOnPastADisabledAngle) {
+TEST_F(Boxes, enter_moves_on_past_a_disabled_angle) {
     Start_free();
     Click("Cmd_type(3)");
     ASSERT_FALSE(Enabled("Txt_alp"));
@@ -362,7 +362,7 @@ TEST_F(Boxes, EnterMovesOnPastADisabledAngle) {
     EXPECT_EQ(Back("Txt_last"), white);
 }
 
-TEST_F(Boxes, NameAndIdentificationAreTakenAsTheyAreWithoutAPass) {
+TEST_F(Boxes, name_and_identification_are_taken_as_they_are_without_a_pass) {
     Start_free();
     Enter_value("txtprosjekt", " Bru over Å  ");
     EXPECT_EQ(s.Prosjekt, " Bru over Å  ");
@@ -376,7 +376,7 @@ TEST_F(Boxes, NameAndIdentificationAreTakenAsTheyAreWithoutAPass) {
     EXPECT_EQ(Text("txtid"), "");
 }
 
-TEST_F(Boxes, WhileLoadingNoBoxButTheProjectNameTurnsGreen) {
+TEST_F(Boxes, while_loading_no_box_but_the_project_name_turns_green) {
     Start_free();
     s.Loading = true;
     for (const char* name : {"Txt_b1", "Txt_h1", "Txt_b2", "Txt_h2", "Txt_last", "Txt_alp", "txtid"}) {
@@ -395,7 +395,7 @@ TEST_F(Boxes, WhileLoadingNoBoxButTheProjectNameTurnsGreen) {
 }
 
 // A change of the active window, a menu or a list that drops down does not leave a box.
-TEST_F(Boxes, AnotherWindowInFrontDoesNotLeaveTheBox) {
+TEST_F(Boxes, another_window_in_front_does_not_leave_the_box) {
     Start_free();
     Type("Txt_last", "0");
     QWidget other;
@@ -414,7 +414,7 @@ TEST_F(Boxes, AnotherWindowInFrontDoesNotLeaveTheBox) {
     EXPECT_EQ(boxes.messages.size(), 1U);
 }
 
-TEST_F(Boxes, AMenuThatIsOpenedDoesNotLeaveTheBox) {
+TEST_F(Boxes, a_menu_that_is_opened_does_not_leave_the_box) {
     Start_free();
     Type("Txt_last", "23");
     auto& menu = Find<QMenu>("mnufile");
@@ -442,7 +442,7 @@ protected:
     }
 };
 
-TEST_F(ManualHe, AGoodValueRunsTheSplittingCheckAlone) {
+TEST_F(ManualHe, a_good_value_runs_the_splitting_check_alone) {
     Start_manual();
     s.b2 = 36.0F;
     Enter_value("Txt_man_he", "99.6");
@@ -459,7 +459,7 @@ TEST_F(ManualHe, AGoodValueRunsTheSplittingCheckAlone) {
     EXPECT_TRUE(boxes.messages.empty());
 }
 
-TEST_F(ManualHe, OtherInputsLeaveTheCheckAlone) {
+TEST_F(ManualHe, other_inputs_leave_the_check_alone) {
     Start_manual();
     Enter_value("Txt_man_he", "100");
     const std::string shown = Text("Lbl_tverr_2");
@@ -472,14 +472,14 @@ TEST_F(ManualHe, OtherInputsLeaveTheCheckAlone) {
     EXPECT_EQ(s.he, s.h2 - s.Sb1);
 }
 
-TEST_F(ManualHe, APassLeavesAHalfTypedValue) {
+TEST_F(ManualHe, a_pass_leaves_a_half_typed_value) {
     Start_manual();
     Type("Txt_man_he", "77");
     window->Work().Recalculate();
     EXPECT_EQ(Text("Txt_man_he"), "77");
 }
 
-TEST_F(ManualHe, ZeroIsRefusedWithTheSameWordsInBothLanguages) {
+TEST_F(ManualHe, zero_is_refused_with_the_same_words_in_both_languages) {
     for (const char* lang : {"Eng", "Nor"}) {
         boxes.messages.clear();
         Start_manual(lang);
@@ -499,7 +499,7 @@ TEST_F(ManualHe, ZeroIsRefusedWithTheSameWordsInBothLanguages) {
     }
 }
 
-TEST_F(ManualHe, AboveTheHeightOfTheMemberThatSplits) {
+TEST_F(ManualHe, above_the_height_of_the_member_that_splits) {
     const char* const text[] = {" he  >  h  (Undergurt)", " he   >  h  (Overgurt)", " he   >  h  (Bjelke)",
                                 " he   >  h  (Bjelke)", " he   >  h  (Bjelke)"};
     for (int type = 0; type < 5; ++type) {
@@ -524,7 +524,7 @@ TEST_F(ManualHe, AboveTheHeightOfTheMemberThatSplits) {
 }
 
 // The check divides by zero there: accepted, and the old results stay, without a word.
-TEST_F(ManualHe, TheHeightItselfIsAcceptedWithTheOldResults) {
+TEST_F(ManualHe, the_height_itself_is_accepted_with_the_old_results) {
     Start_manual();
     Enter_value("Txt_man_he", "100");
     const std::string shown = Text("Lbl_tverr_2");
@@ -538,7 +538,7 @@ TEST_F(ManualHe, TheHeightItselfIsAcceptedWithTheOldResults) {
 
 // A fault in the pass that a box started: without a word, and the focus goes back to the box. What mends it can be
 // clicked all the same.
-TEST_F(Boxes, AFaultInThePassGivesTheFocusBackToTheBox) {
+TEST_F(Boxes, a_fault_in_the_pass_gives_the_focus_back_to_the_box) {
     Start_free();
     Enter_value("Txt_h2", "30"); // lower than its distances
     EXPECT_TRUE(boxes.messages.empty());
@@ -553,7 +553,7 @@ TEST_F(Boxes, AFaultInThePassGivesTheFocusBackToTheBox) {
     EXPECT_TRUE(boxes.messages.empty());
 }
 
-TEST_F(Boxes, WhatMendsAFaultCanBeReachedFromTheBoxThatGotTheFocusBack) {
+TEST_F(Boxes, what_mends_a_fault_can_be_reached_from_the_box_that_got_the_focus_back) {
     Start();
     Pick("cboProf2", 12); // T  45x45
     Answer();
@@ -567,7 +567,7 @@ TEST_F(Boxes, WhatMendsAFaultCanBeReachedFromTheBoxThatGotTheFocusBack) {
     EXPECT_EQ(Text("Lbl_last_kontroll"), "12.0");
 }
 
-TEST_F(Boxes, AClickThatLeavesABoxWhosePassFaultsActs) {
+TEST_F(Boxes, a_click_that_leaves_a_box_whose_pass_faults_acts) {
     Start();
     Pick("cboProf2", 12);
     Answer();

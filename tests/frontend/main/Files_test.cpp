@@ -3,6 +3,7 @@
 
 #include "data/ProjectFile.h"
 #include "frontend/dialogs/Frm_tarn_vik_fak_klass.h"
+#include "tests/support/RecordingMessageBox.h"
 #include "tests/support/Window.h"
 
 namespace tarnvik::test {
@@ -55,7 +56,7 @@ protected:
 
 using Names = std::vector<std::string>;
 
-TEST_F(Files, SaveOnANewProjectWritesAFileOfItsTitleWithoutADialog) {
+TEST_F(Files, save_on_a_new_project_writes_a_file_of_its_title_without_a_dialog) {
     Start("Nor");
     Menu("mnuFileItem(2)");
     EXPECT_TRUE(std::filesystem::exists(work / "Ny Fil"));
@@ -70,7 +71,7 @@ TEST_F(Files, SaveOnANewProjectWritesAFileOfItsTitleWithoutADialog) {
     EXPECT_TRUE(std::filesystem::exists(work / "New File"));
 }
 
-TEST_F(Files, SaveAsAsksForANameWithThePresentOne) {
+TEST_F(Files, save_as_asks_for_a_name_with_the_present_one) {
     Start();
     Save_as(Path("one.tnvik"));
     ASSERT_EQ(dialogs.asked.size(), 1U);
@@ -89,7 +90,7 @@ TEST_F(Files, SaveAsAsksForANameWithThePresentOne) {
     EXPECT_EQ(Recent(), (Names{"1. " + Path("two.tnvik"), "2. " + Path("one.tnvik")}));
 }
 
-TEST_F(Files, SaveAfterSaveAsGoesToTheSameFile) {
+TEST_F(Files, save_after_save_as_goes_to_the_same_file) {
     Start();
     Save_as(Path("one.tnvik"));
     Enter_value("Txt_last", "33");
@@ -98,7 +99,7 @@ TEST_F(Files, SaveAfterSaveAsGoesToTheSameFile) {
     EXPECT_EQ(dialogs.asked.size(), 1U);
 }
 
-TEST_F(Files, ACancelledSaveAsChangesNothing) {
+TEST_F(Files, a_cancelled_save_as_changes_nothing) {
     Start();
     dialogs.answer.reset();
     Menu("mnuFileItem(3)");
@@ -108,7 +109,7 @@ TEST_F(Files, ACancelledSaveAsChangesNothing) {
     EXPECT_TRUE(Known().empty());
 }
 
-TEST_F(Files, ACancelledOpenChangesNothing) {
+TEST_F(Files, a_cancelled_open_changes_nothing) {
     Start("Nor");
     dialogs.answer.reset();
     Menu("mnuFileItem(1)");
@@ -122,7 +123,7 @@ TEST_F(Files, ACancelledOpenChangesNothing) {
     EXPECT_EQ(passes, 0);
 }
 
-TEST_F(Files, NamesTypedButNotYetAcceptedGoIntoTheFile) {
+TEST_F(Files, names_typed_but_not_yet_accepted_go_into_the_file) {
     Start();
     Type("txtid", "Knutepunkt Ø");
     Save_as(Path("one.tnvik"));
@@ -134,7 +135,7 @@ TEST_F(Files, NamesTypedButNotYetAcceptedGoIntoTheFile) {
     EXPECT_EQ(s.Id, "Knutepunkt Ø");
 }
 
-TEST_F(Files, OpenBringsEveryInputBack) {
+TEST_F(Files, open_brings_every_input_back) {
     Start();
     Enter_value("txtprosjekt", "Bru");
     Enter_value("txtid", "Node 7");
@@ -217,7 +218,7 @@ TEST_F(Files, OpenBringsEveryInputBack) {
     EXPECT_EQ(Text("Lbl_tverr_2"), splitting);
 }
 
-TEST_F(Files, OpenEnablesTheShearOptionsByTheFourRules) {
+TEST_F(Files, open_enables_the_shear_options_by_the_four_rules) {
     struct Case {
         const char* click;
         bool dob_1, dob_2; // enabled afterwards
@@ -235,7 +236,7 @@ TEST_F(Files, OpenEnablesTheShearOptionsByTheFourRules) {
     }
 }
 
-TEST_F(Files, OpenOfBoltsOnlyHidesTheConnectors) {
+TEST_F(Files, open_of_bolts_only_hides_the_connectors) {
     Start();
     Save_as(Path("bolts.tnvik"));
     Click("Opt_bolt_bulldog(1)");
@@ -248,7 +249,7 @@ TEST_F(Files, OpenOfBoltsOnlyHidesTheConnectors) {
     }
 }
 
-TEST_F(Files, OpenClearsTheCheckBoxOfManualHeAndNoMore) {
+TEST_F(Files, open_clears_the_check_box_of_manual_he_and_no_more) {
     Start();
     Save_as(Path("automatic.tnvik"));
     Click("Check_man");
@@ -258,7 +259,7 @@ TEST_F(Files, OpenClearsTheCheckBoxOfManualHeAndNoMore) {
     EXPECT_TRUE(Enabled("Txt_man_he"));
 }
 
-TEST_F(Files, AnEnglishProjectTurnsANorwegianProgram) {
+TEST_F(Files, an_English_project_turns_a_Norwegian_program) {
     Start("Eng");
     Save_as(Path("english.tnvik"));
     s = ConnectionState{};
@@ -273,7 +274,7 @@ TEST_F(Files, AnEnglishProjectTurnsANorwegianProgram) {
     EXPECT_EQ(Find<QDialog>("Frm_tarn_vik_fak_klass").windowTitle(), QStringLiteral("Classes"));
 }
 
-TEST_F(Files, AProjectBringsItsOwnMaterialsAndFactors) {
+TEST_F(Files, a_project_brings_its_own_materials_and_factors) {
     Start();
     const int materials = Find<QComboBox>("cboMat").count();
     s.gm_T = 1.5F;
@@ -289,7 +290,7 @@ TEST_F(Files, AProjectBringsItsOwnMaterialsAndFactors) {
     EXPECT_EQ(Text("lbl_gm"), "1.50 ");
 }
 
-TEST_F(Files, AnEmptyProjectNameReadsAsEmpty) {
+TEST_F(Files, an_empty_project_name_reads_as_empty) {
     Start();
     Enter_value("txtprosjekt", "");
     Save_as(Path("nameless.tnvik"));
@@ -299,7 +300,7 @@ TEST_F(Files, AnEmptyProjectNameReadsAsEmpty) {
     EXPECT_EQ(s.Prosjekt, "");
 }
 
-TEST_F(Files, OpenWithABoxInEditingShowsTheFilesValue) {
+TEST_F(Files, open_with_a_box_in_editing_shows_the_files_value) {
     Start();
     Save_as(Path("one.tnvik"));
     Type("Txt_last", "77");
@@ -312,7 +313,7 @@ TEST_F(Files, OpenWithABoxInEditingShowsTheFilesValue) {
 }
 
 // The angle is disabled by the pass while it has the focus: that is not leaving it.
-TEST_F(Files, OpenDisablesABoxThatHasTheFocusWithoutASecondPass) {
+TEST_F(Files, open_disables_a_box_that_has_the_focus_without_a_second_pass) {
     Start();
     Click("Cmd_type(3)");
     Save_as(Path("type4.tnvik"));
@@ -329,7 +330,7 @@ TEST_F(Files, OpenDisablesABoxThatHasTheFocusWithoutASecondPass) {
 
 // Files that cannot be read: what is told, and what goes on all the same
 
-TEST_F(Files, AFileThatIsGone) {
+TEST_F(Files, a_file_that_is_gone) {
     Start();
     Open(Path("gone.tnvik"));
     EXPECT_EQ(boxes.messages, (Messages{{" Can't find file ", 48}}));
@@ -339,14 +340,14 @@ TEST_F(Files, AFileThatIsGone) {
     EXPECT_EQ(Text("txtprosjekt"), "Project 1");
 }
 
-TEST_F(Files, AFolderThatIsGone) {
+TEST_F(Files, a_folder_that_is_gone) {
     Start("Nor");
     Open(Path("nowhere/gone.tnvik"));
     EXPECT_EQ(boxes.messages, (Messages{{" Path not found ", 48}}));
     EXPECT_EQ(Caption(), "Tarnvik: " + Path("nowhere/gone.tnvik"));
 }
 
-TEST_F(Files, AFileCutShort) {
+TEST_F(Files, a_file_cut_short) {
     Start();
     Save_as(Path("whole.tnvik"));
     const std::string bytes = Read_file(Path("whole.tnvik"));
@@ -365,7 +366,7 @@ TEST_F(Files, AFileCutShort) {
     EXPECT_EQ(s.Con_type, 2);
 }
 
-TEST_F(Files, AProjectWhosePassFaultsOpensWithoutAWord) {
+TEST_F(Files, a_project_whose_pass_faults_opens_without_a_word) {
     Start();
     Pick("cboProf2", 12); // T  45x45
     Answer();
@@ -381,7 +382,7 @@ TEST_F(Files, AProjectWhosePassFaultsOpensWithoutAWord) {
     EXPECT_EQ(Text("Txt_h2"), "198.0");
 }
 
-TEST_F(Files, ASaveThatFailsIsToldAndTheProgramGoesOn) {
+TEST_F(Files, a_save_that_fails_is_told_and_the_program_goes_on) {
     Start();
     s.File_name = Path("nowhere/one.tnvik");
     Menu("mnuFileItem(2)");
@@ -390,7 +391,7 @@ TEST_F(Files, ASaveThatFailsIsToldAndTheProgramGoesOn) {
     EXPECT_EQ(boxes.messages[0].style, 0);
 }
 
-TEST_F(Files, ASaveAsThatFailsIsSkippedSilently) {
+TEST_F(Files, a_save_as_that_fails_is_skipped_silently) {
     Start();
     Save_as(Path("nowhere/one.tnvik"));
     EXPECT_TRUE(boxes.messages.empty());
@@ -399,7 +400,7 @@ TEST_F(Files, ASaveAsThatFailsIsSkippedSilently) {
 
 // Recent files
 
-TEST_F(Files, WithoutRecentFilesTheMenuShowsNone) {
+TEST_F(Files, without_recent_files_the_menu_shows_none) {
     Start();
     EXPECT_TRUE(Recent().empty());
     for (int i = 1; i <= 3; ++i) {
@@ -407,7 +408,7 @@ TEST_F(Files, WithoutRecentFilesTheMenuShowsNone) {
     }
 }
 
-TEST_F(Files, KnownFilesStandInTheMenuInTheStoresOrder) {
+TEST_F(Files, known_files_stand_in_the_menu_in_the_stores_order) {
     Know({"/a b/one.x.tnvik", "/two & three.tnvik"});
     Start();
     EXPECT_EQ(Recent(), (Names{"1. /a b/one.x.tnvik", "2. /two && three.tnvik"})); // "&&" shows one "&"
@@ -416,7 +417,7 @@ TEST_F(Files, KnownFilesStandInTheMenuInTheStoresOrder) {
     EXPECT_EQ(Recent(), (Names{"1. /1", "2. /2", "3. /3", "4. /4"}));
 }
 
-TEST_F(Files, SaveAsShiftsTheListAndTheOldestFallsOff) {
+TEST_F(Files, save_as_shifts_the_list_and_the_oldest_falls_off) {
     Know({"/1", "/2", "/3"});
     Start();
     Save_as(Path("a.tnvik"));
@@ -426,7 +427,7 @@ TEST_F(Files, SaveAsShiftsTheListAndTheOldestFallsOff) {
     EXPECT_EQ(Known(), (Names{Path("a.tnvik"), Path("a.tnvik"), "/1", "/2"}));
 }
 
-TEST_F(Files, UntilFourFilesAreKnownAnOpenAddsNone) {
+TEST_F(Files, until_four_files_are_known_an_open_adds_none) {
     Know({"/1", "/2", "/3"});
     Start();
     Save_project(s, Path("new.tnvik"));
@@ -436,7 +437,7 @@ TEST_F(Files, UntilFourFilesAreKnownAnOpenAddsNone) {
     EXPECT_TRUE(boxes.messages.empty());
 }
 
-TEST_F(Files, WithFourKnownAnOpenPutsTheFileInFront) {
+TEST_F(Files, with_four_known_an_open_puts_the_file_in_front) {
     Know({"/1", "/2", "/3", "/4"});
     Start();
     Save_project(s, Path("new.tnvik"));
@@ -445,7 +446,7 @@ TEST_F(Files, WithFourKnownAnOpenPutsTheFileInFront) {
     EXPECT_EQ(Recent()[0], "1. " + Path("new.tnvik"));
 }
 
-TEST_F(Files, ARecentEntryOpensItsFile) {
+TEST_F(Files, a_recent_entry_opens_its_file) {
     const std::string path = Path("Å & B. 2.tnvik");
     Know({"/1", "/2", path, "/4"});
     Start();
@@ -462,7 +463,7 @@ TEST_F(Files, ARecentEntryOpensItsFile) {
     EXPECT_TRUE(dialogs.asked.empty());
 }
 
-TEST_F(Files, ARecentEntryWhoseFileIsGone) {
+TEST_F(Files, a_recent_entry_whose_file_is_gone) {
     Know({"/1", "/2", "/3", Path("gone.tnvik")});
     Start();
     Menu("mnurecentfile(4)");

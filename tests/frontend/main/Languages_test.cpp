@@ -134,7 +134,7 @@ protected:
     }
 };
 
-TEST_F(Languages, EveryCaptionInEnglish) {
+TEST_F(Languages, every_caption_in_English) {
     Start("Eng");
     for (const Wording& row : captions) {
         EXPECT_EQ(Text(row.control), row.english) << row.control;
@@ -145,7 +145,7 @@ TEST_F(Languages, EveryCaptionInEnglish) {
     }
 }
 
-TEST_F(Languages, EveryCaptionInNorwegian) {
+TEST_F(Languages, every_caption_in_Norwegian) {
     Start("Nor");
     for (const Wording& row : captions) {
         if (row.norwegian != nullptr) {
@@ -158,13 +158,13 @@ TEST_F(Languages, EveryCaptionInNorwegian) {
     }
 }
 
-TEST_F(Languages, CaptionsAsBuiltStandWhereNorwegianWritesNone) {
+TEST_F(Languages, captions_as_built_stand_where_Norwegian_writes_none) {
     Start("Nor");
     EXPECT_EQ(Text("Fra_standard"), "Standard");
     EXPECT_EQ(Text("Fra_valgfri"), "Valgfri (mm)");
 }
 
-TEST_F(Languages, EnglishCaptionsStayWhereNorwegianWritesNone) {
+TEST_F(Languages, English_captions_stay_where_Norwegian_writes_none) {
     Start("Eng");
     Turn_to("Cmd_nor");
     EXPECT_EQ(Text("Fra_standard"), "Standard");
@@ -172,7 +172,7 @@ TEST_F(Languages, EnglishCaptionsStayWhereNorwegianWritesNone) {
     EXPECT_EQ(Text("lbl_prosjekt"), "Prosjekt navn");
 }
 
-TEST_F(Languages, EveryCaptionTurnsAtTheButtonOfTheSetup) {
+TEST_F(Languages, every_caption_turns_at_the_button_of_the_setup) {
     Start("Eng");
     for (const bool english : {false, true, false}) {
         Turn_to(english ? "Cmd_eng" : "Cmd_nor");
@@ -190,7 +190,7 @@ TEST_F(Languages, EveryCaptionTurnsAtTheButtonOfTheSetup) {
     }
 }
 
-TEST_F(Languages, TheSetupTurnsItsOwnCaptions) {
+TEST_F(Languages, the_setup_turns_its_own_captions) {
     Start("Eng");
     Menu("mnusetup", [](QWidget& dialog) {
         for (const Wording& row : captions_of_setup) {
@@ -203,7 +203,7 @@ TEST_F(Languages, TheSetupTurnsItsOwnCaptions) {
     });
 }
 
-TEST_F(Languages, MemberNamesOfEveryTypeInBothLanguages) {
+TEST_F(Languages, member_names_of_every_type_in_both_languages) {
     Start("Eng");
     for (const Members& row : members) {
         Click("Cmd_type(" + std::to_string(row.Con_type - 1) + ")");
@@ -215,13 +215,13 @@ TEST_F(Languages, MemberNamesOfEveryTypeInBothLanguages) {
     }
 }
 
-TEST_F(Languages, AChangeOfTypeAloneLeavesTheMemberNames) {
+TEST_F(Languages, a_change_of_type_alone_leaves_the_member_names) {
     Start("Eng");
     Click("Cmd_type(3)");
     Expect_members(members[0].english);
 }
 
-TEST_F(Languages, TheResultsTurnWithTheLanguage) {
+TEST_F(Languages, the_results_turn_with_the_language) {
     Start("Eng");
     for (int row = 0; row < 5; ++row) {
         s.Lastvar = static_cast<std::int16_t>(row + 1);
@@ -234,7 +234,7 @@ TEST_F(Languages, TheResultsTurnWithTheLanguage) {
     }
 }
 
-TEST_F(Languages, MenuEntriesKeepTheirBuiltTextWhereNoProcedureWritesOne) {
+TEST_F(Languages, menu_entries_keep_their_built_text_where_no_procedure_writes_one) {
     for (const char* lang : {"Eng", "Nor"}) {
         Start(lang);
         EXPECT_EQ(Text("mnufile"), "&File");
@@ -245,7 +245,7 @@ TEST_F(Languages, MenuEntriesKeepTheirBuiltTextWhereNoProcedureWritesOne) {
     }
 }
 
-TEST_F(Languages, AboutTextsOfBothLanguages) {
+TEST_F(Languages, about_texts_of_both_languages) {
     const auto expect = [this](const char* title, const char* version) {
         Menu("mnuabout", [=](QWidget& about) {
             EXPECT_EQ(Text_of(Find_in<QLabel>(about, "Lbl_title")), title);
@@ -258,7 +258,7 @@ TEST_F(Languages, AboutTextsOfBothLanguages) {
     expect("Beregning av bolteforbindelser ifølge Eurocode 5", "Versjon  1.2.0");
 }
 
-TEST_F(Languages, TheButtonRefillsTheConnectorListWithD62AndCalculatesOnce) {
+TEST_F(Languages, the_button_refills_the_connector_list_with_D62_and_calculates_once) {
     Start("Eng");
     Click("Opt_bolt_bulldog(1)");
     Pick("Comb_bulldog", 2);
@@ -278,7 +278,7 @@ TEST_F(Languages, TheButtonRefillsTheConnectorListWithD62AndCalculatesOnce) {
     }
 }
 
-TEST_F(Languages, TheNoteOnSmallAnglesTurnsToo) {
+TEST_F(Languages, the_note_on_small_angles_turns_too) {
     Start("Eng");
     const auto note = [this] {
         for (const PositionedText& row : Find<TableArea>("Pic_av_bolter_dif").Rows()) {

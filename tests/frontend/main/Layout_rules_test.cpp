@@ -49,13 +49,13 @@ protected:
     const double kap_h = input_h * 0.17;
 };
 
-TEST_F(LayoutRules, TheTwoHalves) {
+TEST_F(LayoutRules, the_two_halves) {
     Start();
     Expect({{"fra_input", w * 0.005, 0.0, input_w, input_h},
             {"Fra_results", w * 0.005 + input_w + 75.0 * twip, 0.0, results_w, input_h}});
 }
 
-TEST_F(LayoutRules, NamesAndFasteners) {
+TEST_F(LayoutRules, names_and_fasteners) {
     Start();
     Click("Opt_bolt_bulldog(1)");
     const double x = input_w * 0.02;
@@ -79,7 +79,7 @@ TEST_F(LayoutRules, NamesAndFasteners) {
     EXPECT_GE(Height("txtid"), 16.0);
 }
 
-TEST_F(LayoutRules, MaterialAndDimensions) {
+TEST_F(LayoutRules, material_and_dimensions) {
     Start();
     const double x = input_w * 0.02;
     const double main_w = input_w * 0.97;
@@ -121,7 +121,7 @@ TEST_F(LayoutRules, MaterialAndDimensions) {
     });
 }
 
-TEST_F(LayoutRules, ClassesTypeAndConnection) {
+TEST_F(LayoutRules, classes_type_and_connection) {
     Start();
     const double x = input_w * 0.02;
     const double klasse_w = input_w * 0.97;
@@ -167,7 +167,7 @@ TEST_F(LayoutRules, ClassesTypeAndConnection) {
     });
 }
 
-TEST_F(LayoutRules, Capacities) {
+TEST_F(LayoutRules, capacities) {
     Start();
     Click("Opt_bolt_bulldog(1)");
     const double tverr_h = kap_h * 0.9;
@@ -211,7 +211,7 @@ TEST_F(LayoutRules, Capacities) {
     });
 }
 
-TEST_F(LayoutRules, SketchesAndTables) {
+TEST_F(LayoutRules, sketches_and_tables) {
     Start();
     Click("Opt_bolt_bulldog(1)");
     const double frame_h = input_h * 0.4;

@@ -302,7 +302,7 @@ protected:
     }
 };
 
-TEST_F(LayoutWalk, EveryConnectionInBothLanguagesWithAndWithoutConnectors) {
+TEST_F(LayoutWalk, every_connection_in_both_languages_with_and_without_connectors) {
     Measure measure;
     for (const char* lang : {"Eng", "Nor"}) {
         Start(lang);
@@ -331,7 +331,7 @@ TEST_F(LayoutWalk, EveryConnectionInBothLanguagesWithAndWithoutConnectors) {
     Expect_none(measure);
 }
 
-TEST_F(LayoutWalk, TheFreeEntryAndEveryNumber) {
+TEST_F(LayoutWalk, the_free_entry_and_every_number) {
     Measure measure;
     for (const char* lang : {"Eng", "Nor"}) {
         Start(lang);
@@ -359,7 +359,7 @@ TEST_F(LayoutWalk, TheFreeEntryAndEveryNumber) {
     Expect_none(measure);
 }
 
-TEST_F(LayoutWalk, TheFramesStandBelowTheMenuBarInsideTheWindow) {
+TEST_F(LayoutWalk, the_frames_stand_below_the_menu_bar_inside_the_window) {
     for (const char* lang : {"Eng", "Nor"}) {
         Start(lang);
         const QRect menu = window->menuBar()->geometry();
@@ -378,7 +378,7 @@ TEST_F(LayoutWalk, TheFramesStandBelowTheMenuBarInsideTheWindow) {
     }
 }
 
-TEST_F(LayoutWalk, TheDialogs) {
+TEST_F(LayoutWalk, the_dialogs) {
     Measure measure;
     for (const char* lang : {"Eng", "Nor"}) {
         Start(lang);

@@ -2,6 +2,7 @@
 #include <random>
 
 #include "calc/pass/Main_beregn.h"
+#include "tests/support/RecordingMessageBox.h"
 #include "tests/support/Window.h"
 
 namespace tarnvik::test {
@@ -163,7 +164,7 @@ private:
     std::mt19937 random_{static_cast<unsigned>(GetParam())};
 };
 
-TEST_P(Monkey, WhateverIsDoneTheWindowShowsWhatTheStateHolds) {
+TEST_P(Monkey, whatever_is_done_the_window_shows_what_the_state_holds) {
     Start(GetParam() % 2 == 0 ? "Eng" : "Nor");
     Watch();
     Pick("cboProf1", 55); // L 42x405: most cases fit

@@ -8,7 +8,7 @@ namespace {
 
 using Selections = WindowTest;
 
-TEST_F(Selections, BoltPutsTheSpacingBackTo5d) {
+TEST_F(Selections, bolt_puts_the_spacing_back_to_5d) {
     Start();
     Pick("Comb_bolt_avstand", 3);
     EXPECT_EQ(s.Avstand_index, 3);
@@ -22,7 +22,7 @@ TEST_F(Selections, BoltPutsTheSpacingBackTo5d) {
     EXPECT_EQ(Text("Lbl_skive_tykk2"), "3.6 ");
 }
 
-TEST_F(Selections, NumberOfBoltsPutsTheSpacingBackTo5d) {
+TEST_F(Selections, number_of_bolts_puts_the_spacing_back_to_5d) {
     Start();
     Pick("Comb_bolt_avstand", 15);
     ASSERT_EQ(s.Avstand_index, 15);
@@ -34,7 +34,7 @@ TEST_F(Selections, NumberOfBoltsPutsTheSpacingBackTo5d) {
     EXPECT_EQ(Row("Comb_bolt_avstand"), 0);
 }
 
-TEST_F(Selections, EveryBoltAndEveryNumber) {
+TEST_F(Selections, every_bolt_and_every_number) {
     Start();
     const float d[] = {12, 16, 20, 24, 12, 16, 20, 24};
     const float fuk[] = {400, 400, 400, 400, 800, 800, 800, 800};
@@ -52,7 +52,7 @@ TEST_F(Selections, EveryBoltAndEveryNumber) {
     EXPECT_EQ(passes, 13);
 }
 
-TEST_F(Selections, PickingTheSameRowAgainIsAnInput) {
+TEST_F(Selections, picking_the_same_row_again_is_an_input) {
     Start();
     Pick("Comb_bolt_avstand", 4);
     passes = 0;
@@ -61,7 +61,7 @@ TEST_F(Selections, PickingTheSameRowAgainIsAnInput) {
     EXPECT_EQ(s.Avstand_index, 0);
 }
 
-TEST_F(Selections, TheArrowKeysPickOnceForEachPress) {
+TEST_F(Selections, the_arrow_keys_pick_once_for_each_press) {
     Start();
     Find("Comb_bolter").setFocus();
     Settle();
@@ -74,7 +74,7 @@ TEST_F(Selections, TheArrowKeysPickOnceForEachPress) {
     EXPECT_EQ(passes, 2);
 }
 
-TEST_F(Selections, AListClosedWithoutAChoiceIsNoInput) {
+TEST_F(Selections, a_list_closed_without_a_choice_is_no_input) {
     Start();
     auto& list = Find<QComboBox>("Comb_bolter");
     Click(list);
@@ -85,7 +85,7 @@ TEST_F(Selections, AListClosedWithoutAChoiceIsNoInput) {
     EXPECT_EQ(s.Bolt_index, 6);
 }
 
-TEST_F(Selections, MaterialAndSections) {
+TEST_F(Selections, material_and_sections) {
     Start();
     Pick("cboMat", 5);
     EXPECT_EQ(s.Mat_index, 5);
@@ -103,7 +103,7 @@ TEST_F(Selections, MaterialAndSections) {
     EXPECT_EQ(passes, 3);
 }
 
-TEST_F(Selections, TheKindOfSectionEnablesItsFrame) {
+TEST_F(Selections, the_kind_of_section_enables_its_frame) {
     Start();
     Click("Opt_valg");
     EXPECT_FALSE(s.Standard);
@@ -120,7 +120,7 @@ TEST_F(Selections, TheKindOfSectionEnablesItsFrame) {
     EXPECT_EQ(passes, 2);
 }
 
-TEST_F(Selections, AnOptionThatIsSelectedDoesNotActAgain) {
+TEST_F(Selections, an_option_that_is_selected_does_not_act_again) {
     Start();
     for (const char* option : {"Opt_bolt_bulldog(0)", "Opt_stand", "Opt_trykk", "Opt_enk_1", "Opt_enk_2"}) {
         ASSERT_TRUE(Checked(option)) << option;
@@ -129,7 +129,7 @@ TEST_F(Selections, AnOptionThatIsSelectedDoesNotActAgain) {
     }
 }
 
-TEST_F(Selections, TensionChangesTheSignAndCompressionTakesItAway) {
+TEST_F(Selections, tension_changes_the_sign_and_compression_takes_it_away) {
     Start();
     Click("Opt_strekk");
     EXPECT_EQ(s.P, -10.0F);
@@ -141,7 +141,7 @@ TEST_F(Selections, TensionChangesTheSignAndCompressionTakesItAway) {
     EXPECT_EQ(passes, 2);
 }
 
-TEST_F(Selections, AForceTypedInTensionIsStoredPositiveUntilAnOptionIsClicked) {
+TEST_F(Selections, a_force_typed_in_tension_is_stored_positive_until_an_option_is_clicked) {
     Start();
     Click("Opt_strekk");
     Enter_value("Txt_last", "25");
@@ -154,7 +154,7 @@ TEST_F(Selections, AForceTypedInTensionIsStoredPositiveUntilAnOptionIsClicked) {
     EXPECT_EQ(s.P, -25.0F);
 }
 
-TEST_F(Selections, DoubleMember1LocksDoubleMember2) {
+TEST_F(Selections, double_member_1_locks_double_member_2) {
     Start();
     Click("Opt_dob_1");
     EXPECT_TRUE(s.dob_1);
@@ -173,7 +173,7 @@ TEST_F(Selections, DoubleMember1LocksDoubleMember2) {
     EXPECT_EQ(passes, 2);
 }
 
-TEST_F(Selections, DoubleMember2LocksDoubleMember1) {
+TEST_F(Selections, double_member_2_locks_double_member_1) {
     Start();
     Click("Opt_dob_2");
     EXPECT_TRUE(s.dob_2);
@@ -194,7 +194,7 @@ TEST_F(Selections, DoubleMember2LocksDoubleMember1) {
     EXPECT_EQ(passes, 2);
 }
 
-TEST_F(Selections, EveryTypeStartsWithItsAngleAndSingleMembers) {
+TEST_F(Selections, every_type_starts_with_its_angle_and_single_members) {
     Start();
     const float angle[] = {27, 27, 27, 90, 90};
     const char* const shown[] = {"27.0", "27.0", "27.0", "90.0", "90.0"};
@@ -223,7 +223,7 @@ TEST_F(Selections, EveryTypeStartsWithItsAngleAndSingleMembers) {
     }
 }
 
-TEST_F(Selections, TheTypeLeavesMaterialSectionsAndForce) {
+TEST_F(Selections, the_type_leaves_material_sections_and_force) {
     Start();
     Pick("cboMat", 7);
     Pick("cboProf1", 9);
@@ -235,7 +235,7 @@ TEST_F(Selections, TheTypeLeavesMaterialSectionsAndForce) {
     EXPECT_EQ(Text("Txt_last"), "12.50");
 }
 
-TEST_F(Selections, TheTypeClearsManualHe) {
+TEST_F(Selections, the_type_clears_manual_he) {
     Start();
     Click("Check_man");
     ASSERT_TRUE(s.Man_he_on);
@@ -247,7 +247,7 @@ TEST_F(Selections, TheTypeClearsManualHe) {
     EXPECT_EQ(passes, 2); // that of the check box and that of the button
 }
 
-TEST_F(Selections, TheArrangementButtonsWriteTheLetter) {
+TEST_F(Selections, the_arrangement_buttons_write_the_letter) {
     Start();
     Click("Cmd_boltetype(0)");
     EXPECT_EQ(s.Bolt_ab, "a");
@@ -259,7 +259,7 @@ TEST_F(Selections, TheArrangementButtonsWriteTheLetter) {
     EXPECT_EQ(passes, 2);
 }
 
-TEST_F(Selections, TheArrangementButtonsAreUsableWhereThereIsAChoice) {
+TEST_F(Selections, the_arrangement_buttons_are_usable_where_there_is_a_choice) {
     Start();
     const bool usable[5][5] = {
         // 1, 2, 3, 4, 6 bolts
@@ -280,7 +280,7 @@ TEST_F(Selections, TheArrangementButtonsAreUsableWhereThereIsAChoice) {
     }
 }
 
-TEST_F(Selections, TheArrangementWaitsWhileThereIsNoChoice) {
+TEST_F(Selections, the_arrangement_waits_while_there_is_no_choice) {
     Start();
     Click("Cmd_boltetype(0)");
     Click("Cmd_type(1)");
@@ -290,7 +290,7 @@ TEST_F(Selections, TheArrangementWaitsWhileThereIsNoChoice) {
     EXPECT_EQ(s.Case_code, "1.2.a");
 }
 
-TEST_F(Selections, TheSpacingListIsShownWithARowAlongTheGrain) {
+TEST_F(Selections, the_spacing_list_is_shown_with_a_row_along_the_grain) {
     Start();
     EXPECT_TRUE(Visible("Comb_bolt_avstand"));
     EXPECT_TRUE(Visible("lbl_txt_avstand"));
@@ -306,7 +306,7 @@ const std::vector<std::string> with_connectors{
     "Fra_bulldog", "Fra_av_bulldog",          "Lbl_bulldog_kap1",      "Lbl_bulldog_kap2",
     "Lbl_pluss",   "Lbl_Rd_bulldog_kontroll", "Lbl_tot_eff_bulldog_1", "Lbl_tot_eff_bulldog_2"};
 
-TEST_F(Selections, ConnectorsShowTheirFramesAndStartWithD62) {
+TEST_F(Selections, connectors_show_their_frames_and_start_with_D62) {
     Start();
     Pick("Comb_bolter", 5); // M16: fits all up to D75
     passes = 0;
@@ -333,7 +333,7 @@ TEST_F(Selections, ConnectorsShowTheirFramesAndStartWithD62) {
     }
 }
 
-TEST_F(Selections, EveryConnectorSetsItsDiameter) {
+TEST_F(Selections, every_connector_sets_its_diameter) {
     Start();
     Click("Opt_bolt_bulldog(1)");
     const float dc[] = {48, 62, 75, 95, 117}; // the first is called D50
@@ -350,7 +350,7 @@ TEST_F(Selections, EveryConnectorSetsItsDiameter) {
     }
 }
 
-TEST_F(Selections, ChoosingConnectorsAgainPutsD62Back) {
+TEST_F(Selections, choosing_connectors_again_puts_D62_back) {
     Start();
     Click("Opt_bolt_bulldog(1)");
     Pick("Comb_bulldog", 3);
@@ -361,7 +361,7 @@ TEST_F(Selections, ChoosingConnectorsAgainPutsD62Back) {
     EXPECT_EQ(s.dc, 62.0F);
 }
 
-TEST_F(Selections, ARefusedConnectorStopsThePassUntilItIsMended) {
+TEST_F(Selections, a_refused_connector_stops_the_pass_until_it_is_mended) {
     Start();
     Click("Opt_bolt_bulldog(1)");
     const std::string washer = Text("Lbl_skive_diameter2");
@@ -386,14 +386,14 @@ TEST_F(Selections, ARefusedConnectorStopsThePassUntilItIsMended) {
     EXPECT_EQ(Text("Lbl_skive_diameter2"), washer);
 }
 
-TEST_F(Selections, ARefusedConnectorInNorwegian) {
+TEST_F(Selections, a_refused_connector_in_Norwegian) {
     Start("Nor");
     Click("Opt_bolt_bulldog(1)");
     Pick("Comb_bulldog", 0);
     EXPECT_EQ(boxes.messages, (Messages{{"Bruk større forbinder eller mindre bolt", 0}}));
 }
 
-TEST_F(Selections, LeavingARefusedPairByBoltsOnlyKeepsPrintingOffUntilAnAllowedPair) {
+TEST_F(Selections, leaving_a_refused_pair_by_bolts_only_keeps_printing_off_until_an_allowed_pair) {
     Start();
     Click("Opt_bolt_bulldog(1)");
     Pick("Comb_bulldog", 0);
@@ -406,7 +406,7 @@ TEST_F(Selections, LeavingARefusedPairByBoltsOnlyKeepsPrintingOffUntilAnAllowedP
     EXPECT_EQ(Find<ListBox>("Comb_bulldog").Back(), white);
 }
 
-TEST_F(Selections, ARefusedPassKeepsWhatTheUserTyped) {
+TEST_F(Selections, a_refused_pass_keeps_what_the_user_typed) {
     Start();
     Click("Opt_valg");
     Click("Opt_bolt_bulldog(1)");
@@ -424,7 +424,7 @@ TEST_F(Selections, ARefusedPassKeepsWhatTheUserTyped) {
 
 // Manual he
 
-TEST_F(Selections, ManualHeIsEnabledWithoutAPassAndDisabledWithOne) {
+TEST_F(Selections, manual_he_is_enabled_without_a_pass_and_disabled_with_one) {
     Start();
     Click("Check_man");
     EXPECT_TRUE(s.Man_he_on);
@@ -440,7 +440,7 @@ TEST_F(Selections, ManualHeIsEnabledWithoutAPassAndDisabledWithOne) {
 
 // A fault
 
-TEST_F(Selections, AFaultInThePassIsToldInOneBoxAndTheProgramGoesOn) {
+TEST_F(Selections, a_fault_in_the_pass_is_told_in_one_box_and_the_program_goes_on) {
     Start();
     Pick("cboProf2", 12); // T  45x45: lower than its distances
     ASSERT_EQ(boxes.messages.size(), 1U);
@@ -457,7 +457,7 @@ TEST_F(Selections, AFaultInThePassIsToldInOneBoxAndTheProgramGoesOn) {
 
 // While the program itself sets controls
 
-TEST_F(Selections, NoHandlerActsWhileLoadingButTheArrangementButtons) {
+TEST_F(Selections, no_handler_acts_while_loading_but_the_arrangement_buttons) {
     Start();
     s.Loading = true;
     Find<QComboBox>("Comb_bolter").setCurrentIndex(1);
@@ -489,7 +489,7 @@ TEST_F(Selections, NoHandlerActsWhileLoadingButTheArrangementButtons) {
     EXPECT_FALSE(s.Loading); // the pass cleared it
 }
 
-TEST_F(Selections, ClickAndSpaceBothPressAButton) {
+TEST_F(Selections, click_and_space_both_press_a_button) {
     Start();
     Find("Cmd_type(3)").setFocus();
     Settle();
@@ -501,7 +501,7 @@ TEST_F(Selections, ClickAndSpaceBothPressAButton) {
     EXPECT_TRUE(s.dob_1);
 }
 
-TEST_F(Selections, TheWheelOverAListInPassingChangesNothing) {
+TEST_F(Selections, the_wheel_over_a_list_in_passing_changes_nothing) {
     Start();
     auto& list = Find("cboMat");
     const QPointF middle = QRectF{list.rect()}.center();

@@ -11,7 +11,7 @@ namespace {
 
 using StartUp = WindowTest;
 
-TEST_F(StartUp, ShowsANewProjectInEnglish) {
+TEST_F(StartUp, shows_a_new_project_in_English) {
     Start("Eng");
     EXPECT_EQ(Caption(), "Tarnvik: New File");
     EXPECT_EQ(Text("txtprosjekt"), "Project 1");
@@ -19,7 +19,7 @@ TEST_F(StartUp, ShowsANewProjectInEnglish) {
     EXPECT_EQ(Text("Lbl_lastvar_2"), "Permanent action    ");
 }
 
-TEST_F(StartUp, ShowsANewProjectInNorwegian) {
+TEST_F(StartUp, shows_a_new_project_in_Norwegian) {
     Start("Nor");
     EXPECT_EQ(Caption(), "Tarnvik: Ny Fil");
     EXPECT_EQ(Text("txtprosjekt"), "Prosjekt 1");
@@ -27,7 +27,7 @@ TEST_F(StartUp, ShowsANewProjectInNorwegian) {
     EXPECT_EQ(Text("Lbl_lastvar_2"), "Permanent           ");
 }
 
-TEST_F(StartUp, SelectsTheStartValues) {
+TEST_F(StartUp, selects_the_start_values) {
     Start();
     EXPECT_TRUE(Checked("Opt_bolt_bulldog(0)"));
     EXPECT_FALSE(Checked("Opt_bolt_bulldog(1)"));
@@ -56,7 +56,7 @@ TEST_F(StartUp, SelectsTheStartValues) {
     EXPECT_TRUE(Find_in<QAbstractButton>(classes, "Opt_klimaklasse(0)").isChecked());
 }
 
-TEST_F(StartUp, HasCalculatedOnceBeforeTheFirstInput) {
+TEST_F(StartUp, has_calculated_once_before_the_first_input) {
     int before = -1;
     Write_setup_language("Eng");
     window = std::make_unique<frmMain>(s, Services{boxes, dialogs, opener, settings, printer, clock}, folder.Path());
@@ -69,7 +69,7 @@ TEST_F(StartUp, HasCalculatedOnceBeforeTheFirstInput) {
     EXPECT_TRUE(boxes.messages.empty());
 }
 
-TEST_F(StartUp, ShowsTheFirstResults) {
+TEST_F(StartUp, shows_the_first_results) {
     Start();
     EXPECT_EQ(Text("Lbl_klima_2"), "1");
     EXPECT_EQ(Text("Lbl_kmod2"), "0.60 ");
@@ -100,7 +100,7 @@ TEST_F(StartUp, ShowsTheFirstResults) {
     EXPECT_TRUE(Visible("Cmd_detail"));
 }
 
-TEST_F(StartUp, HidesWhatBelongsToConnectors) {
+TEST_F(StartUp, hides_what_belongs_to_connectors) {
     Start();
     for (const char* name : {"Fra_bulldog", "Fra_av_bulldog", "Lbl_bulldog_kap1", "Lbl_bulldog_kap2", "Lbl_pluss",
                              "Lbl_Rd_bulldog_kontroll", "Lbl_tot_eff_bulldog_1", "Lbl_tot_eff_bulldog_2"}) {
@@ -108,7 +108,7 @@ TEST_F(StartUp, HidesWhatBelongsToConnectors) {
     }
 }
 
-TEST_F(StartUp, PutsTheFocusIntoTheProjectNameGreenAndSelected) {
+TEST_F(StartUp, puts_the_focus_into_the_project_name_green_and_selected) {
     Start();
     EXPECT_EQ(Focus(), "txtprosjekt");
     EXPECT_EQ(Back("txtprosjekt"), green);
@@ -118,13 +118,13 @@ TEST_F(StartUp, PutsTheFocusIntoTheProjectNameGreenAndSelected) {
     }
 }
 
-TEST_F(StartUp, SizesTheWindowByTheScreen) {
+TEST_F(StartUp, sizes_the_window_by_the_screen) {
     Start();
     EXPECT_EQ(window->width(), std::lround(1024.0 * window->logicalDpiX() / 96.0));
     EXPECT_EQ(window->height(), std::lround(0.965 * 768.0 * window->logicalDpiY() / 96.0));
 }
 
-TEST_F(StartUp, AWindowThatTheUserResizesKeepsItsControlsWhereTheyAre) {
+TEST_F(StartUp, a_window_that_the_user_resizes_keeps_its_controls_where_they_are) {
     Start();
     const QRect input = Find("fra_input").geometry();
     const QRect results = Find("Fra_results").geometry();
@@ -135,7 +135,7 @@ TEST_F(StartUp, AWindowThatTheUserResizesKeepsItsControlsWhereTheyAre) {
     EXPECT_EQ(Find("Fra_results").geometry(), results);
 }
 
-TEST_F(StartUp, AMissingSetupFileGivesNorwegianTextsStandardFactorsAndABoxThatNamesIt) {
+TEST_F(StartUp, a_missing_setup_file_gives_Norwegian_texts_standard_factors_and_a_box_that_names_it) {
     std::filesystem::remove(folder / "Tarnviksetup.csv");
     Start_as_is();
     EXPECT_EQ(Text("lbl_prosjekt"), "Prosjekt navn");
@@ -152,7 +152,7 @@ TEST_F(StartUp, AMissingSetupFileGivesNorwegianTextsStandardFactorsAndABoxThatNa
     EXPECT_EQ(s.Con_type, 2);
 }
 
-TEST_F(StartUp, AMissingMaterialOrProfileFileEndsTheStartWithItsNameAndFolder) {
+TEST_F(StartUp, a_missing_material_or_profile_file_ends_the_start_with_its_name_and_folder) {
     for (const char* file : {"TarnvikMaterial.csv", "TarnvikProfile.csv"}) {
         const std::string kept = Read_file(folder / file);
         std::filesystem::remove(folder / file);
@@ -169,7 +169,7 @@ TEST_F(StartUp, AMissingMaterialOrProfileFileEndsTheStartWithItsNameAndFolder) {
     }
 }
 
-TEST_F(StartUp, AShorterProfileFileLeavesTheListsWithoutASelection) {
+TEST_F(StartUp, a_shorter_profile_file_leaves_the_lists_without_a_selection) {
     Write_file(folder / "TarnvikProfile.csv", "Type: ;T;Timber;;\r\n;L;;;\r\n;Ke;;;\r\n;K;;;\r\nStandard:;S;;;\r\n"
                                               "0;1;2;3;4\r\nId;Type;Standard;b;h\r\nT  48x198;T;S;48;198\r\n");
     Write_setup_language("Eng");

@@ -50,7 +50,7 @@ QRect Painted_in(std::string_view key, const QRectF& room, double letter_size,
     return Painted(image);
 }
 
-TEST(Equations, EveryKeyHasItsSize) {
+TEST(Equations, every_key_has_its_size) {
     for (const std::string_view key : equation_keys) {
         const auto size = Equation_size(key, letter);
         ASSERT_TRUE(size) << key;
@@ -60,7 +60,7 @@ TEST(Equations, EveryKeyHasItsSize) {
     }
 }
 
-TEST(Equations, NothingForAnotherKey) {
+TEST(Equations, nothing_for_another_key) {
     QImage image{50, 50, QImage::Format_RGB32};
     image.fill(Qt::white);
     QPainter painter{&image};
@@ -71,7 +71,7 @@ TEST(Equations, NothingForAnotherKey) {
     EXPECT_FALSE(Painted(image).isValid());
 }
 
-TEST(Equations, LeftAndInTheMiddleOfTheRoom) {
+TEST(Equations, left_and_in_the_middle_of_the_room) {
     for (const std::string_view key : equation_keys) {
         const QSizeF size = *Equation_size(key, letter);
         const QRectF room{60.0, 50.0, size.width() + 80.0, size.height() + 60.0};
@@ -85,7 +85,7 @@ TEST(Equations, LeftAndInTheMiddleOfTheRoom) {
     }
 }
 
-TEST(Equations, OnTheBaselineAsFarAsTheRoomAllows) {
+TEST(Equations, on_the_baseline_as_far_as_the_room_allows) {
     const std::string_view key = "frmDetailed/Pic_r_h"; // "0.5" stands on the baseline, "f" goes below it
     const QRectF room{0.0, 20.0, 400.0, 200.0};
     const int middle = Painted_in(key, room, letter).top();
@@ -97,7 +97,7 @@ TEST(Equations, OnTheBaselineAsFarAsTheRoomAllows) {
     EXPECT_LE(Painted_in(key, room, letter, 500.0).bottom(), 220);
 }
 
-TEST(Equations, SmallerButNeverDistortedInASmallRoom) {
+TEST(Equations, smaller_but_never_distorted_in_a_small_room) {
     for (const std::string_view key : equation_keys) {
         const QSizeF size = *Equation_size(key, letter);
         const double aspect = size.width() / size.height();
@@ -119,7 +119,7 @@ TEST(Equations, SmallerButNeverDistortedInASmallRoom) {
     }
 }
 
-TEST(Equations, NothingWithoutRoom) {
+TEST(Equations, nothing_without_room) {
     QImage image{50, 50, QImage::Format_RGB32};
     image.fill(Qt::white);
     QPainter painter{&image};
@@ -128,7 +128,7 @@ TEST(Equations, NothingWithoutRoom) {
     EXPECT_FALSE(Painted(image).isValid());
 }
 
-TEST(Equations, BoltsOfTheFigureAreRound) {
+TEST(Equations, bolts_of_the_figure_are_round) {
     const std::string_view key = "Frm_tarn_vik_txt_tverr_brudd/Pic_tverr_brudd_fig";
     QImage image{2150, 1250, QImage::Format_RGB32};
     image.fill(Qt::white);
@@ -150,7 +150,7 @@ TEST(Equations, BoltsOfTheFigureAreRound) {
     EXPECT_NEAR(reach({0, -1}), right, 1);
 }
 
-TEST(Equations, VectorsInAPdf) {
+TEST(Equations, vectors_in_a_pdf) {
     QByteArray pdf;
     QBuffer file{&pdf};
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
@@ -169,7 +169,7 @@ TEST(Equations, VectorsInAPdf) {
     EXPECT_FALSE(pdf.contains("/Subtype /Image"));
 }
 
-TEST(Equations, OnlyPathsInTheFiles) {
+TEST(Equations, only_paths_in_the_files) {
     const QDir folder{QStringLiteral(":/tarnvik/equations")};
     const QStringList files = folder.entryList({QStringLiteral("*.svg")});
     EXPECT_EQ(files.size(), 13);

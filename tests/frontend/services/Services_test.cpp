@@ -32,7 +32,7 @@ void Press_ok() {
 
 // Message boxes
 
-TEST(MessageBoxes, ComeAfterTheHandlerWithoutATitle) {
+TEST(MessageBoxes, come_after_the_handler_without_a_title) {
     QtBoxService boxes;
     boxes.Show(" h =< 0 ", box_exclamation);
     EXPECT_EQ(Shown_box(), nullptr); // the handler runs to its end first
@@ -53,7 +53,7 @@ TEST(MessageBoxes, ComeAfterTheHandlerWithoutATitle) {
     EXPECT_EQ(Shown_box(), nullptr);
 }
 
-TEST(MessageBoxes, ComeOneAfterTheOtherEachWithItsAnswer) {
+TEST(MessageBoxes, come_one_after_the_other_each_with_its_answer) {
     QtBoxService boxes;
     std::string answered;
     boxes.Show_then("one", box_plain, [&answered] { answered += "1"; });
@@ -70,7 +70,7 @@ TEST(MessageBoxes, ComeOneAfterTheOtherEachWithItsAnswer) {
 }
 
 // Two passes of one input that say the same: one box to answer.
-TEST(MessageBoxes, TheSameWordsAreNotSaidAgainWhileTheyWait) {
+TEST(MessageBoxes, the_same_words_are_not_said_again_while_they_wait) {
     QtBoxService boxes;
     boxes.Show("same", box_plain);
     boxes.Show("same", box_plain);
@@ -102,7 +102,7 @@ private:
     QtBoxService real_;
 };
 
-TEST_F(RealBoxes, ARefusalByTheTabKey) {
+TEST_F(RealBoxes, a_refusal_by_the_tab_key) {
     Start();
     Type("Txt_last", "0");
     Key(Qt::Key_Tab);
@@ -124,7 +124,7 @@ TEST_F(RealBoxes, ARefusalByTheTabKey) {
     EXPECT_EQ(Back("Txt_alp"), green);
 }
 
-TEST_F(RealBoxes, ARefusalByTheMouse) {
+TEST_F(RealBoxes, a_refusal_by_the_mouse) {
     Start();
     Type("Txt_last", "x");
     Click("Cmd_type(2)");
@@ -139,7 +139,7 @@ TEST_F(RealBoxes, ARefusalByTheMouse) {
     EXPECT_EQ(Shown_box(), nullptr);
 }
 
-TEST_F(RealBoxes, RefusedAgainAndAgain) {
+TEST_F(RealBoxes, refused_again_and_again) {
     Start();
     Type("Txt_alp", "0");
     for (int i = 0; i < 3; ++i) {
@@ -151,7 +151,7 @@ TEST_F(RealBoxes, RefusedAgainAndAgain) {
     EXPECT_EQ(passes, 0);
 }
 
-TEST_F(RealBoxes, B1InEnglishGoesOnToWhatWasMeant) {
+TEST_F(RealBoxes, b1_in_English_goes_on_to_what_was_meant) {
     Start();
     Click("Opt_valg");
     Type("Txt_b1", "0");
@@ -164,7 +164,7 @@ TEST_F(RealBoxes, B1InEnglishGoesOnToWhatWasMeant) {
     EXPECT_EQ(Box("Txt_h2").selectedText(), Box("Txt_h2").text());
 }
 
-TEST_F(RealBoxes, ARefusedConnectorIsToldOnceForOneClick) {
+TEST_F(RealBoxes, a_refused_connector_is_told_once_for_one_click) {
     Start();
     Pick("Comb_bolter", 7); // M24: D62 is too small for it, and the option selects D62
     Click("Opt_bolt_bulldog(1)");
@@ -179,7 +179,7 @@ TEST_F(RealBoxes, ARefusedConnectorIsToldOnceForOneClick) {
     EXPECT_EQ(Shown_box(), nullptr);
 }
 
-TEST_F(RealBoxes, ARefusedFactorOverTheSetup) {
+TEST_F(RealBoxes, a_refused_factor_over_the_setup) {
     Start();
     Menu("mnusetup", [this](QWidget& dialog) {
         auto& box = Find_in<TextBox>(dialog, "Txt_gamma_timb");
@@ -202,7 +202,7 @@ TEST_F(RealBoxes, ARefusedFactorOverTheSetup) {
     });
 }
 
-TEST_F(RealBoxes, AFaultIsToldAndTheProgramGoesOn) {
+TEST_F(RealBoxes, a_fault_is_told_and_the_program_goes_on) {
     Start();
     Pick("cboProf2", 12); // T  45x45
     EXPECT_EQ(Shown_text(), "Run-time error 5: invalid procedure call or argument (Tverr_brudd)");
@@ -214,7 +214,7 @@ TEST_F(RealBoxes, AFaultIsToldAndTheProgramGoesOn) {
 
 // Settings
 
-TEST(Settings, AreKeptBetweenTwoRunsInTheOrderOfTheirKeys) {
+TEST(Settings, are_kept_between_two_runs_in_the_order_of_their_keys) {
     {
         QtSettingsStore store;
         store.Save("Tarn-Vik", "Recent Files", "RecentFile2", "/b, with a comma; and more");
@@ -259,7 +259,7 @@ private:
     std::filesystem::path former_;
 };
 
-TEST_F(FileDialog, OpenGivesThePathOfAFileThatExists) {
+TEST_F(FileDialog, open_gives_the_path_of_a_file_that_exists) {
     Write_file(folder / "one.tnvik", "x");
     In_file_dialog([](QFileDialog& dialog) {
         EXPECT_EQ(dialog.acceptMode(), QFileDialog::AcceptOpen);
@@ -271,12 +271,12 @@ TEST_F(FileDialog, OpenGivesThePathOfAFileThatExists) {
     EXPECT_EQ(dialogs.Open({"*.tnvik", "*.tnvik", "", 4100}), (folder / "one.tnvik").string());
 }
 
-TEST_F(FileDialog, OpenCancelled) {
+TEST_F(FileDialog, open_cancelled) {
     In_file_dialog([](QFileDialog& dialog) { dialog.reject(); });
     EXPECT_EQ(dialogs.Open({"*.tnvik", "*.tnvik", "", 4100}), std::nullopt);
 }
 
-TEST_F(FileDialog, SaveStartsWithTheNameAndAddsTheExtension) {
+TEST_F(FileDialog, save_starts_with_the_name_and_adds_the_extension) {
     In_file_dialog([](QFileDialog& dialog) {
         EXPECT_EQ(dialog.acceptMode(), QFileDialog::AcceptSave);
         EXPECT_FALSE(dialog.testOption(QFileDialog::DontConfirmOverwrite));
@@ -286,7 +286,7 @@ TEST_F(FileDialog, SaveStartsWithTheNameAndAddsTheExtension) {
     EXPECT_EQ(dialogs.Save({"*.tnvik", "New File", "tnvik", 6}), (folder / "another.tnvik").string());
 }
 
-TEST_F(FileDialog, SaveAsksBeforeItWritesOver) {
+TEST_F(FileDialog, save_asks_before_it_writes_over) {
     Write_file(folder / "one.tnvik", "x");
     In_file_dialog([](QFileDialog& dialog) {
         QTimer::singleShot(0, &dialog, [] {
@@ -313,7 +313,7 @@ public:
     std::vector<std::string> opened;
 };
 
-TEST(Documents, AreOpenedByTheDesktop) {
+TEST(Documents, are_opened_by_the_desktop) {
     Handler handler;
     for (const char* scheme : {"file", "https", "mailto"}) {
         QDesktopServices::setUrlHandler(QLatin1String(scheme), &handler, "Open");

@@ -13,7 +13,7 @@ ConnectionValues Of(std::int16_t type, const char* code) {
 }
 
 // Types 2, 4 and 5 share their group; labels do not ask for the type.
-TEST(MemberTexts, NotesGoByTheGroupOfTheType) {
+TEST(Member_texts, notes_go_by_the_group_of_the_type) {
     EXPECT_NE(Member_notes(Of(1, "1.3")), nullptr);
     EXPECT_EQ(Member_notes(Of(1, "2.1")), nullptr);
     EXPECT_NE(Member_notes(Of(2, "4.1")), nullptr);
@@ -27,7 +27,7 @@ TEST(MemberTexts, NotesGoByTheGroupOfTheType) {
     EXPECT_NE(Member_labels(Of(0, "1.1")), nullptr);
 }
 
-TEST(MemberTexts, CodeOutsideTheCatalogue) {
+TEST(Member_texts, code_outside_the_catalogue) {
     EXPECT_EQ(Member_labels(Of(1, "1.4")), nullptr);
     EXPECT_EQ(Member_labels(Of(1, "")), nullptr);
     EXPECT_EQ(Member_notes(Of(1, "")), nullptr);

@@ -1,11 +1,6 @@
 // The print command of the window: the dialog, the job, and every way in which it can fail.
-#include <QComboBox>
-#include <QPrintDialog>
-#include <QPushButton>
-
-#include "frontend/services/QtServices.h"
 #include "report/PrintReport.h"
-#include "tests/report/Support.h"
+#include "tests/support/Report.h"
 #include "tests/support/Window.h"
 
 namespace tarnvik::test {
@@ -116,45 +111,6 @@ TEST_F(PrintCommand, texts_of_the_spacing_tables_outlive_a_print) {
     Menu("mnuprint");
     ASSERT_EQ(s.Case_code, "1.3.b");
     EXPECT_EQ(Text_at(*printer.jobs[1], 95.0F, 262.0F - 4.0F * 17.0F, 2), b5);
-}
-
-// The toolkit's own dialog.
-class PrinterDialog : public WindowTest {
-protected:
-    QtPrinterService service;
-};
-
-TEST_F(PrinterDialog, offers_pdf_and_writes_it) {
-    Start();
-    const std::filesystem::path file = work / "from the dialog.pdf";
-    In_dialog([&](QWidget& dialog) {
-        EXPECT_EQ(dialog.objectName(), QStringLiteral("PrinterDialog"));
-        auto& names = Find_in<QComboBox>(dialog, "printers");
-        const int pdf = names.findText(QStringLiteral("Print to File (PDF)"));
-        ASSERT_GE(pdf, 0);
-        names.setCurrentIndex(pdf);
-        Find_in<QLineEdit>(dialog, "filename").setText(QString::fromStdString(file.string()));
-        dynamic_cast<QDialog&>(dialog).accept();
-    });
-    const auto target = service.Show_printer({1048580, "Report"});
-    ASSERT_NE(target, nullptr);
-    SpacingTexts texts;
-    PrintReport(*target, s, {window->Work().Shown().Pic_forbindelse, window->Work().Shown().Pic_av_bolter}, clock.Now(),
-                texts);
-    target->EndDoc();
-    EXPECT_TRUE(Read_file(file).starts_with("%PDF"));
-}
-
-TEST_F(PrinterDialog, cancelled_gives_no_job) {
-    Start();
-    In_dialog([&](QWidget& dialog) { dynamic_cast<QDialog&>(dialog).reject(); });
-    EXPECT_EQ(service.Show_printer({1048580, "Report"}), nullptr);
-}
-
-TEST(QtClock, time_has_eight_characters) {
-    const Moment now = QtClock{}.Now();
-    EXPECT_EQ(now.time.size(), 8U);
-    EXPECT_FALSE(now.date.empty());
 }
 
 } // namespace

@@ -13,7 +13,7 @@
 #include <system_error>
 
 #include "calc/Text.h"
-#include "tests/calc/Support.h"
+#include "tests/support/Calculation.h"
 
 namespace tarnvik::test {
 

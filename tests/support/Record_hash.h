@@ -2,7 +2,7 @@
 #pragma once
 
 #include "spacing/Rules.h"
-#include "tests/calc/Support.h"
+#include "tests/support/Calculation.h"
 
 namespace tarnvik::test {
 

@@ -10,7 +10,7 @@
 #include <nlohmann/json.hpp>
 
 #include "check/Check.h"
-#include "tests/data/Support.h"
+#include "tests/support/Files.h"
 
 namespace tarnvik::test {
 
@@ -36,16 +36,21 @@ struct ToolRun {
     }
 };
 
-// The tool within this process; the data files are the delivered ones.
-inline ToolRun Tool(const std::vector<std::string>& arguments, const std::string& input = {}) {
+// The tool within this process, with a painter or null; the data files are the delivered ones.
+inline ToolRun Tool_with(Rendering* rendering, const std::vector<std::string>& arguments,
+                         const std::string& input = {}) {
     std::istringstream in{input};
     std::ostringstream out;
     std::ostringstream err;
     ToolRun run;
-    run.status = Run_check(arguments, TARNVIK_DATA_DIR, in, out, err);
+    run.status = Run_check(arguments, TARNVIK_DATA_DIR, in, out, err, rendering);
     run.out = out.str();
     run.err = err.str();
     return run;
+}
+
+inline ToolRun Tool(const std::vector<std::string>& arguments, const std::string& input = {}) {
+    return Tool_with(nullptr, arguments, input);
 }
 
 inline std::vector<std::string> Names(const Json& object) {

@@ -10,12 +10,11 @@
 #include <QRegularExpression>
 #include <QStandardPaths>
 
-#include "frontend/controls/Controls.h"
 #include "frontend/painting/QtPrintTarget.h"
 #include "frontend/painting/Texts.h"
-#include "tests/data/Support.h"
-#include "tests/report/Support.h"
 #include "tests/support/Fakes.h"
+#include "tests/support/Files.h"
+#include "tests/support/Report.h"
 
 namespace tarnvik {
 namespace {

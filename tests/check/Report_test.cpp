@@ -2,47 +2,14 @@
 #include <filesystem>
 
 #include "calc/RuntimeFault.h"
-#include "ports/Clock.h"
-#include "ports/Rendering.h"
-#include "report/Recorder.h"
-#include "tests/check/Support.h"
-#include "tests/report/Support.h"
+#include "tests/support/RecordingRendering.h"
+#include "tests/support/Report.h"
+#include "tests/support/Tool.h"
 
 namespace tarnvik {
 namespace {
 
 using namespace test;
-
-// Keeps what would be painted.
-class RecordingRendering final : public Rendering {
-public:
-    int Write_pictures(const std::filesystem::path& /*folder*/) override { return 0; }
-    void Write_report(const std::filesystem::path& file, const std::string& title,
-                      const std::function<void(PrintTarget&, const Moment&)>& draw) override {
-        if (fault != 0) {
-            Raise(fault, "Write_report");
-        }
-        files.push_back(file);
-        titles.push_back(title);
-        draw(recorder, moment);
-    }
-
-    std::vector<std::filesystem::path> files;
-    std::vector<std::string> titles;
-    Recorder recorder;
-    int fault{};
-};
-
-ToolRun Tool_with(Rendering* rendering, const std::vector<std::string>& arguments, const std::string& input = {}) {
-    std::istringstream in{input};
-    std::ostringstream out;
-    std::ostringstream err;
-    ToolRun run;
-    run.status = Run_check(arguments, TARNVIK_DATA_DIR, in, out, err, rendering);
-    run.out = out.str();
-    run.err = err.str();
-    return run;
-}
 
 // The prints of a result, in turn.
 std::vector<Json> Prints_of(const Json& result) {

@@ -14,7 +14,8 @@
 #include "report/PrintReport.h"
 #include "report/Recorder.h"
 #include "report/Sections.h"
-#include "tests/calc/Support.h"
+#include "tests/support/Calculation.h"
+#include "tests/support/RecordingMessageBox.h"
 
 namespace tarnvik::test {
 

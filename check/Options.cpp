@@ -76,97 +76,130 @@ arithmetic failed.
     return text;
 }
 
-Options Parse_options(const std::vector<std::string>& arguments) {
-    Options options;
-    bool only_projects = false;
-    for (std::size_t i = 0; i < arguments.size(); ++i) {
-        std::string name = arguments[i];
-        if (only_projects || name.size() < 2 || name[0] != '-') {
-            options.projects.push_back(name);
-            continue;
+namespace {
+
+void Set_lang(Options& options, const std::string& value) {
+    if (value != "Eng" && value != "Nor") {
+        throw UsageError{"--lang: expected Eng or Nor, got \"" + value + "\""};
+    }
+    options.lang = value;
+}
+
+void Add_input(Options& options, const std::string& pair) {
+    const std::size_t equals = pair.find('=');
+    if (equals == std::string::npos || equals == 0) {
+        throw UsageError{"--set: expected NAME=VALUE, got \"" + pair + "\""};
+    }
+    options.set.emplace_back(pair.substr(0, equals), pair.substr(equals + 1));
+}
+
+void Add_groups(Options& options, const std::string& list) {
+    for (std::string& group : Split_list(list)) {
+        if (std::find(groups.begin(), groups.end(), group) == groups.end()) {
+            throw UsageError{"--with: unknown group \"" + group +
+                             "\", expected screen,tables,pictures,report,detail,explanations"};
         }
-        if (name == "--") {
-            only_projects = true;
-            continue;
+        options.with.push_back(std::move(group));
+    }
+    options.json = true;
+}
+
+void Set_fields(Options& options, const std::string& list) {
+    options.fields = Split_list(list);
+    for (const std::string& field : *options.fields) {
+        if (Find_state_field(field) == nullptr && std::find(tables.begin(), tables.end(), field) == tables.end()) {
+            throw UsageError{"--fields: \"" + field + "\" is no name of the state"};
         }
-        std::optional<std::string> attached;
-        if (const std::size_t equals = name.find('='); name.starts_with("--") && equals != std::string::npos) {
-            attached = name.substr(equals + 1);
-            name.resize(equals);
-        }
-        const auto value = [&](const char* expected) {
-            if (attached) {
-                return *std::exchange(attached, std::nullopt);
-            }
-            if (i + 1 >= arguments.size()) {
-                throw UsageError{name + ": expected " + expected};
-            }
-            return arguments[++i];
-        };
-        if (name == "--data") {
-            options.data = value("a folder");
-        } else if (name == "--lang") {
-            options.lang = value("Eng or Nor");
-            if (*options.lang != "Eng" && *options.lang != "Nor") {
-                throw UsageError{"--lang: expected Eng or Nor, got \"" + *options.lang + "\""};
-            }
-        } else if (name == "--set") {
-            const std::string pair = value("NAME=VALUE");
-            const std::size_t equals = pair.find('=');
-            if (equals == std::string::npos || equals == 0) {
-                throw UsageError{"--set: expected NAME=VALUE, got \"" + pair + "\""};
-            }
-            options.set.emplace_back(pair.substr(0, equals), pair.substr(equals + 1));
-        } else if (name == "--json") {
-            options.json = true;
-        } else if (name == "--with") {
-            for (std::string& group : Split_list(value("a list of groups"))) {
-                if (std::find(groups.begin(), groups.end(), group) == groups.end()) {
-                    throw UsageError{"--with: unknown group \"" + group +
-                                     "\", expected screen,tables,pictures,report,detail,explanations"};
-                }
-                options.with.push_back(std::move(group));
-            }
-            options.json = true;
-        } else if (name == "--fields") {
-            options.fields = Split_list(value("a list of names"));
-            for (const std::string& field : *options.fields) {
-                if (Find_state_field(field) == nullptr &&
-                    std::find(tables.begin(), tables.end(), field) == tables.end()) {
-                    throw UsageError{"--fields: \"" + field + "\" is no name of the state"};
-                }
-            }
-            options.json = true;
-        } else if (name == "--batch") {
-            options.batch = true;
-            options.json = true;
-        } else if (name == "--save") {
-            options.save = value("a file");
-        } else if (name == "--report") {
-            options.report = value("a file");
-        } else if (name == "--pictures") {
-            options.pictures = value("a folder");
-        } else if (name == "--help") {
-            options.help = true;
-        } else if (name == "--version") {
-            options.version = true;
-        } else {
-            throw UsageError{"unknown option " + name + "; see tarnvik-check --help"};
-        }
+    }
+    options.json = true;
+}
+
+// An option, what it expects as its value (null: it takes none) and what it does.
+struct OptionRow {
+    std::string_view name;
+    const char* expected;
+    void (*take)(Options& options, const std::string& value);
+};
+
+// clang-format off
+constexpr std::array option_rows{
+    OptionRow{"--data",     "a folder",         [](Options& o, const std::string& value) { o.data = value; }},
+    OptionRow{"--lang",     "Eng or Nor",       Set_lang},
+    OptionRow{"--set",      "NAME=VALUE",       Add_input},
+    OptionRow{"--json",     nullptr,            [](Options& o, const std::string&) { o.json = true; }},
+    OptionRow{"--with",     "a list of groups", Add_groups},
+    OptionRow{"--fields",   "a list of names",  Set_fields},
+    OptionRow{"--batch",    nullptr,            [](Options& o, const std::string&) { o.batch = o.json = true; }},
+    OptionRow{"--save",     "a file",           [](Options& o, const std::string& value) { o.save = value; }},
+    OptionRow{"--report",   "a file",           [](Options& o, const std::string& value) { o.report = value; }},
+    OptionRow{"--pictures", "a folder",         [](Options& o, const std::string& value) { o.pictures = value; }},
+    OptionRow{"--help",     nullptr,            [](Options& o, const std::string&) { o.help = true; }},
+    OptionRow{"--version",  nullptr,            [](Options& o, const std::string&) { o.version = true; }},
+};
+// clang-format on
+
+const OptionRow& Find_option(const std::string& name) {
+    const auto* const row =
+        std::find_if(option_rows.begin(), option_rows.end(), [&](const OptionRow& one) { return one.name == name; });
+    if (row == option_rows.end()) {
+        throw UsageError{"unknown option " + name + "; see tarnvik-check --help"};
+    }
+    return *row;
+}
+
+// The option at `i`, with its value attached by "=" or in the next argument; `i` moves on to what was taken last.
+void Take_option(Options& options, const std::vector<std::string>& arguments, std::size_t& i) {
+    std::string name = arguments[i];
+    std::optional<std::string> attached;
+    if (const std::size_t equals = name.find('='); name.starts_with("--") && equals != std::string::npos) {
+        attached = name.substr(equals + 1);
+        name.resize(equals);
+    }
+    const OptionRow& row = Find_option(name);
+    if (row.expected == nullptr) {
+        row.take(options, {});
         if (attached) {
             throw UsageError{name + " takes no value"};
         }
+    } else if (attached) {
+        row.take(options, *attached);
+    } else if (i + 1 < arguments.size()) {
+        row.take(options, arguments[++i]);
+    } else {
+        throw UsageError{name + ": expected " + row.expected};
     }
+}
+
+void Check_combination(const Options& options) {
     if (options.batch && !options.projects.empty()) {
         throw UsageError{"--batch starts every line from a new project: expected no project, got \"" +
                          options.projects.front() + "\""};
     }
-    if (options.save && (options.batch || options.projects.size() > 1)) {
+    const bool several = options.batch || options.projects.size() > 1;
+    if (options.save && several) {
         throw UsageError{"--save: expected one project, or none"};
     }
-    if (options.report && (options.batch || options.projects.size() > 1)) {
+    if (options.report && several) {
         throw UsageError{"--report: expected one project, or none"};
     }
+}
+
+} // namespace
+
+Options Parse_options(const std::vector<std::string>& arguments) {
+    Options options;
+    bool only_projects = false;
+    for (std::size_t i = 0; i < arguments.size(); ++i) {
+        const std::string& argument = arguments[i];
+        if (only_projects || argument.size() < 2 || argument[0] != '-') {
+            options.projects.push_back(argument);
+        } else if (argument == "--") {
+            only_projects = true;
+        } else {
+            Take_option(options, arguments, i);
+        }
+    }
+    Check_combination(options);
     return options;
 }
 

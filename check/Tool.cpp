@@ -1,0 +1,203 @@
+#include "check/Tool.h"
+
+#include <istream>
+#include <optional>
+#include <ostream>
+#include <string_view>
+#include <utility>
+
+#include <nlohmann/json.hpp>
+
+#include "calc/RuntimeFault.h"
+#include "check/Inputs.h"
+#include "check/Status.h"
+#include "check/Summary.h"
+#include "data/SetupFile.h"
+#include "report/Recorder.h"
+
+namespace tarnvik {
+
+Tool::Tool(Options options, std::istream& in, std::ostream& out, std::ostream& err, Rendering* rendering)
+    : options_(std::move(options)), in_(in), out_(out), err_(err), rendering_(rendering) {}
+
+int Tool::Run(const std::filesystem::path& folder) {
+    std::optional<std::string_view> lang;
+    if (options_.lang) {
+        lang = *options_.lang;
+    }
+    const StartReport report = session_.Start(folder, lang);
+    if (report.setup_missing) {
+        err_ << "tarnvik-check: " << setup_file_read << " in " << folder.string()
+             << ": file not found; Norwegian texts and the partial factors 1.3, 1.25, 1.2, 1.25 stand in for it\n";
+    }
+    if (options_.batch) {
+        return Batch();
+    }
+    if (options_.projects.empty()) {
+        Set_all();
+        return One({});
+    }
+    return Projects();
+}
+
+void Tool::Set_all() {
+    for (const auto& [name, value] : options_.set) {
+        Set_input(*s_, name, value);
+    }
+}
+
+// ---------------------------------------------------------------------------------------------------------------------
+// Projects
+
+int Tool::Projects() {
+    *start_ = *s_;
+    int status = exit_holds;
+    for (std::size_t i = 0; i < options_.projects.size(); ++i) {
+        if (i > 0) {
+            *s_ = *start_;
+            session_.Shown() = {};
+            if (!options_.json) {
+                out_ << "\n";
+            }
+        }
+        status = Worse(status, Project(options_.projects[i]));
+    }
+    return status;
+}
+
+int Tool::Project(const std::string& path) {
+    if (const std::optional<RuntimeFault> failure = session_.Open(path)) {
+        err_ << "tarnvik-check: " << path << ": expected a project file: "
+             << (failure->number == fault_bad_record_length ? "it ends too soon" : failure->description) << "\n";
+        return exit_usage;
+    }
+    Set_all();
+    return One(path);
+}
+
+// A pass, its result and what was asked to be written.
+int Tool::One(const std::string& project) {
+    messages_.messages.clear();
+    const PassResult result = session_.First_pass();
+    if (options_.json) {
+        std::string json;
+        Append_result(json, options_, project, *s_, session_.Shown(), result, messages_, Recording());
+        out_ << json << "\n";
+    } else {
+        out_ << Summary(project, *s_, result, messages_);
+    }
+    int status = Status(*s_, result);
+    if (options_.report) {
+        status = Worse(status, Write_report(result));
+    }
+    if (options_.save) {
+        status = Worse(status, Save());
+    }
+    return status;
+}
+
+// The report of the state as it stands, recorded.
+RecordReport Tool::Recording() {
+    return [this] {
+        Recorder recorder;
+        try {
+            session_.Print(recorder, clock_.Now());
+        } catch (const RuntimeFault&) { // NOLINT(bugprone-empty-catch): a print that fails ends where it fails
+        }
+        return std::move(recorder.calls);
+    };
+}
+
+int Tool::Write_report(const PassResult& result) {
+    if (result.end != PassEnd::normal) {
+        err_ << "tarnvik-check: " << *options_.report << ": not written, the check was stopped\n";
+        return exit_stopped;
+    }
+    try {
+        rendering_->Write_report(*options_.report, s_->Prosjekt,
+                                 [this](PrintTarget& target, const Moment& now) { session_.Print(target, now); });
+    } catch (const RuntimeFault& fault) {
+        err_ << "tarnvik-check: " << *options_.report << ": cannot be written: " << fault.description << "\n";
+        return exit_usage;
+    }
+    return exit_holds;
+}
+
+int Tool::Save() {
+    try {
+        State_to_setup(*s_); // a project carries its language and factors in the setup record
+        session_.Save(*options_.save);
+    } catch (const RuntimeFault& fault) {
+        err_ << "tarnvik-check: " << *options_.save << ": cannot be saved: " << fault.description << "\n";
+        return exit_usage;
+    }
+    return exit_holds;
+}
+
+// ---------------------------------------------------------------------------------------------------------------------
+// Batch
+
+using Json = nlohmann::ordered_json;
+
+int Tool::Batch() {
+    Set_all();
+    const ConnectionValues fresh = *s_;
+    int status = exit_holds;
+    std::string line;
+    std::string json;
+    for (long number = 1; out_ && std::getline(in_, line); ++number) {
+        static_cast<ConnectionValues&>(*s_) = fresh; // the tables never change in a batch
+        session_.Shown() = {};
+        json.clear();
+        status = Worse(status, Line(line, number, json));
+        json += '\n';
+        out_ << json;
+        if (in_.rdbuf()->in_avail() <= 0) { // a caller that waits for each answer gets it
+            out_.flush();
+        }
+    }
+    return status;
+}
+
+int Tool::Line(const std::string& line, long number, std::string& json) {
+    try {
+        const PassResult result = Calculate_line(Json::parse(line));
+        Append_result(json, options_, {}, *s_, session_.Shown(), result, messages_, Recording());
+        return Status(*s_, result);
+    } catch (const UsageError& error) {
+        return Bad_line(json, number, error.text);
+    } catch (const Json::exception& error) {
+        return Bad_line(json, number, std::string{"expected JSON: "} + error.what());
+    }
+}
+
+// An object of inputs, or several that are applied one after the other; the result is that of the last.
+PassResult Tool::Calculate_line(const Json& inputs) {
+    if (!inputs.is_array()) {
+        return Calculate(inputs);
+    }
+    if (inputs.empty()) {
+        throw UsageError{"expected at least one object of inputs, got []"};
+    }
+    PassResult result;
+    for (const Json& object : inputs) {
+        result = Calculate(object);
+    }
+    return result;
+}
+
+PassResult Tool::Calculate(const Json& inputs) {
+    messages_.messages.clear();
+    Set_inputs(*s_, inputs);
+    return session_.First_pass(options_.with.empty() ? Session::Showing::nothing : Session::Showing::screen);
+}
+
+int Tool::Bad_line(std::string& json, long number, const std::string& error) {
+    json = "{\"line\":" + std::to_string(number) + ",\"error\":";
+    Append_json(json, error);
+    json += '}';
+    err_ << "tarnvik-check: line " << number << ": " << error << "\n";
+    return exit_usage;
+}
+
+} // namespace tarnvik

@@ -12,6 +12,7 @@
 #include "frontend/controls/Style.h"
 #include "frontend/painting/EquationPictures.h"
 #include "spacing/Pictures.h"
+#include "spacing/sketch/Connection_picture.h"
 #include "spacing/sketch/Drawing.h"
 #include "spacing/sketch/Sketch.h"
 

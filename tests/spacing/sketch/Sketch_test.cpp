@@ -10,6 +10,8 @@
 #include "calc/Arithmetic.h"
 #include "spacing/Catalogue.h"
 #include "spacing/Rules.h"
+#include "spacing/sketch/Connection_picture.h"
+#include "spacing/sketch/Joint.h"
 
 namespace tarnvik {
 namespace {

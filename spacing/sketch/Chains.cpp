@@ -14,6 +14,8 @@ constexpr double overshoot = 3.0;  // of an extension beyond its dimension line
 constexpr double bolt_gap = 1.0;   // from a fastener to its extension
 constexpr double edge_gap = 2.0;   // from an edge or an end to its extension
 constexpr double beside = 12.0;    // so near to dimensions a corner of the other member counts
+constexpr double label_ends = 3.5; // what a label needs of its line beyond its own width
+constexpr double give_way = 0.6;   // of what it lacks of that
 
 // Where the label of a dimension stands: beside its middle, and shifted along it by a share of what the line lacks to
 // be as wide as the label.
@@ -22,7 +24,7 @@ Point Label_at(const Segment& line, TextSize label, Point outward, double share)
     const Point d = line.b - line.a;
     const double length = Length(d);
     const Point direction = (1.0 / length) * d;
-    const double lacking = std::max(0.0, Span(label, direction) + 3.5 - length);
+    const double lacking = std::max(0.0, Span(label, direction) + label_ends - length);
     return 0.5 * (line.a + line.b) + off * outward + (share * lacking) * direction;
 }
 
@@ -31,7 +33,7 @@ Point Label_at(const Segment& line, TextSize label, Point outward, double share)
 void Add_dimensions(Chain& chain, const std::vector<Point>& ticks, int first) {
     const std::size_t count = ticks.size() - 1;
     for (std::size_t i = 0; i < count; ++i) {
-        const double share = count == 1 ? 0.0 : i == 0 ? -0.6 : i + 1 == count ? 0.6 : 0.0;
+        const double share = count == 1 ? 0.0 : i == 0 ? -give_way : i + 1 == count ? give_way : 0.0;
         const Segment line{ticks[i], ticks[i + 1]};
         const std::string_view label = Label_of(static_cast<Distance>(first + static_cast<int>(i)));
         const TextSize size = Size_of(label, false);

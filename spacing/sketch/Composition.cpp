@@ -11,8 +11,16 @@ namespace tarnvik {
 
 namespace {
 
-constexpr double force_step = 5.0; // from one place that is tried to the next
+constexpr double force_from_fastener = 6.0; // from its rim to the arrow
+constexpr double force_from_label = 5.0;
+constexpr double force_letter_gap = 5.0; // from the arrow to its letter
+constexpr double force_step = 5.0;       // from one place that is tried to the next
 constexpr int force_places = 8;
+
+// What must stand so far apart for a place to be clear.
+constexpr double line_to_letter = 3.0;
+constexpr double line_to_arrow = 4.5;
+constexpr double label_to_arrow = 4.0;
 
 // Across, then along the first member and the second one.
 std::vector<Chain> Make_chains(const Joint& joint, int case_row, const Places& places) {
@@ -31,10 +39,10 @@ std::vector<Chain> Make_chains(const Joint& joint, int case_row, const Places& p
 // The first place along the pushed member for the force: beyond the fasteners and the dimensions across it.
 double Force_from(const Joint& joint, const std::vector<Chain>& chains, const Member& pushed) {
     constexpr double label_room = 2.0 * digit_width + label_gap + 2.0; // beyond a dimension line
-    double from = joint.Farthest(pushed.u) + bolt_radius + 6.0;
+    double from = joint.Farthest(pushed.u) + bolt_radius + force_from_fastener;
     for (const Chain& chain : chains) {
         if (chain.across && std::fabs(Dot(chain.outward, pushed.u) - 1.0) < 1e-6) {
-            from = std::max(from, Dot(chain.Line().a, pushed.u) + label_room + 5.0);
+            from = std::max(from, Dot(chain.Line().a, pushed.u) + label_room + force_from_label);
         }
     }
     return from;
@@ -46,19 +54,20 @@ Force Force_at(const Member& pushed, double u, double side, bool compression) {
     const Point far = pushed.At(u + force_length, pushed.Axis());
     Force force;
     force.arrow = compression ? Segment{far, near} : Segment{near, far};
-    force.letter_at = 0.5 * (near + far) + (side * (letter_height / 2.0 + 5.0)) * pushed.m;
+    force.letter_at = 0.5 * (near + far) + (side * (letter_height / 2.0 + force_letter_gap)) * pushed.m;
     force.letter_room = Around(force.letter_at, Size_of(force_letter, true));
     return force;
 }
 
 // Whether the arrow and its letter stand clear of the dimensions.
 bool Clear_of(const Force& force, const std::vector<Chain>& chains) {
-    const Rect letter = force.letter_room.Grown(3.0);
+    const Rect letter = force.letter_room.Grown(line_to_letter);
     const auto line_clear = [&](const Segment& line) {
-        return !Touches(line, letter) && Gap(line, force.arrow) >= 4.5;
+        return !Touches(line, letter) && Gap(line, force.arrow) >= line_to_arrow;
     };
     const auto label_clear = [&](const Dimension& dimension) {
-        return !dimension.label_room.Touches(letter) && !Touches(force.arrow, dimension.label_room.Grown(4.0));
+        return !dimension.label_room.Touches(letter) &&
+               !Touches(force.arrow, dimension.label_room.Grown(label_to_arrow));
     };
     return std::all_of(chains.begin(), chains.end(), [&](const Chain& chain) {
         return line_clear(chain.Line()) && std::all_of(chain.extensions.begin(), chain.extensions.end(), line_clear) &&

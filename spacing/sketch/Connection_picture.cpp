@@ -68,7 +68,7 @@ void Paint_bolts(Painter& painter, const Joint& joint) {
     }
 }
 
-// Elevation at the left of the picture. Member `front`, index 0 or 1, lies before the other one.
+// The elevation at the left of the picture. Member `front`, index 0 or 1, lies before the other one.
 void Draw_elevation(Drawing& drawing, char type, std::size_t front, double width, double height) {
     const Elevation elevation = Compose_elevation(type, {2, 2}, width, height);
     const auto& members = elevation.joint.members;

@@ -531,80 +531,111 @@ constexpr std::array<DistanceRule, 9> rules_5_6_a{{
 }};
 // clang-format on
 
-// No distance is judged differently at a force of exactly zero.
-constexpr int none = -1;
-// The connector sum adds all the distances that its label names.
-constexpr int all = -1;
+// The sum of a family: its label, and how many of the family's first distances it adds, of the bolts and of the
+// connectors.
+struct SumRule {
+    std::string_view label;
+    int bolts, connectors;
+};
 
+// No distance beside those of the joint; none that is judged differently at a force of exactly zero.
+constexpr int none = -1;
+
+// The distances are those of the joint and, in four cases, one beside them that the joint does not have: it takes a
+// number or a text of the end distance b3.
+//
 // At a force of exactly zero every distance takes the tension column, but for the one named here, which takes the
 // compression column with both its cells.
 struct CaseRules {
     std::string_view Case_code;
     std::span<const DistanceRule> distances;
-    std::string_view Sum_a_txt, Sum_b_txt;
+    int beside;
+    SumRule sum_a, sum_b;
     int compression_at_zero;
-    int summed_ca;
 };
 
+// The lone 2 beside a 3: in case 2.2 the sum of the connectors ends at Ca2, although its label names the distance to
+// the second edge as well. It is meant so: what stands against h1 is without Ca3.
 // clang-format off
 constexpr std::array<CaseRules, case_count> case_rules{{
-    // case   distances            sum a                  sum b                  at zero    of sum ca
-    {"1.1. ", rules_1_1,           "a1 + a2",             "b1 + b2",             none,      all},
-    {"1.2.a", rules_1_2_a,         "a1+a2+a3",            "b1 + b2 ",            none,      all},
-    {"1.2.b", rules_1_2_b,         "a1+a2",               "b1 + b2 +b3",         b3,        all},
-    {"1.3.a", rules_1_3_a,         "a1+a2+a3+a4",         "b1 + b2 ",            none,      all},
-    {"1.3.b", rules_1_3_b,         "a1+a2",               "b1 + b2 + b3 + b4",   b4,        all},
-    {"1.4. ", rules_1_4,           "a1+a2+a3",            "b1 + b2 +b3",         b3,        all},
-    {"1.6. ", rules_1_6,           "a1+a2+a3+a4",         "b1 + b2 +b3",         b3,        all},
-    {"2.1. ", rules_2_1,           "a1 + a2 ",            "b1+b2",               none,      all},
-    {"2.2. ", rules_2_2,           "a1 + a2 +a3",         "b1+b2",               none,      2},
-    {"2.3. ", rules_2_3,           "a1 + a2 +a3 + a4",    "b1+b2",               none,      all},
-    {"2.4. ", rules_2_4,           "a1 + a2 +a3 ",        "b1+b2+b3",            none,      all},
-    {"2.6. ", rules_2_6,           "a1 + a2 +a3 + a4",    "b1+b2+b3",            none,      all},
-    {"3.1. ", rules_3_1,           "a1 + a2 ",            "b1+b2",               none,      all},
-    {"3.2.a", rules_3_2_a,         "a1 + a2 ",            "b1+b2+b3",            none,      all},
-    {"3.2.b", rules_3_2_b,         "a1 + a2 + a3 ",       "b1+b2",               none,      all},
-    {"3.3.a", rules_3_3_a,         "a1 + a2 ",            "b1+b2+b3+b4",         none,      all},
-    {"3.3.b", rules_3_3_b,         "a1 + a2 + a3 + a4",   "b1+b2",               none,      all},
-    {"3.4. ", rules_3_4,           "a1 + a2 + a3",        "b1+b2+b3",            none,      all},
-    {"3.6. ", rules_3_6,           "a1 + a2 + a3 + a4",   "b1+b2+b3",            none,      all},
-    {"4.1. ", rules_4_1,           "a1 + a2  ",           "b1+b2",               a2,        all},
-    {"4.2.a", rules_4_2_a,         "a1 + a2  ",           "b1+b2+b3",            a2,        all},
-    {"4.2.b", rules_4_2_b_5_2_b,   "a1 + a2 +a3 ",        "b1+b2",               a3,        all},
-    {"4.3.a", rules_4_3_a,         "a1 + a2 ",            "b1+b2+b3+b4",         a2,        all},
-    {"4.3.b", rules_4_3_b_5_3_b,   "a1 + a2 +a3 + a4 ",   "b1+b2",               a4,        all},
-    {"4.4. ", rules_4_4,           "a1 + a2 +a3 ",        "b1+b2+b3",            a3,        all},
-    {"4.6.a", rules_4_6_a,         "a1 + a2 +a3 ",        "b1+b2+b3+b4",         a3,        all},
-    {"4.6.b", rules_4_6_b_5_6_b,   "a1 + a2 +a3 + a4 ",   "b1+b2+b3",            a4,        all},
-    {"5.1. ", rules_5_1,           "a1 + a2 ",            "b1+b2",               a1,        all},
-    {"5.2.a", rules_5_2_a,         "a1 + a2 ",            "b1+b2+b3",            a1,        all},
-    {"5.2.b", rules_4_2_b_5_2_b,   "a1 + a2 + a3",        "b1+b2",               a3,        all},
-    {"5.3.a", rules_5_3_a,         "a1 + a2  ",           "b1+b2+b3+b4",         a1,        all},
-    {"5.3.b", rules_4_3_b_5_3_b,   "a1 + a2 +a3 + a4 ",   "b1+b2",               a4,        all},
-    {"5.4. ", rules_5_4,           "a1 + a2 +a3 ",        "b1+b2+b3",            a1,        all},
-    {"5.6.a", rules_5_6_a,         "a1 + a2 +a3 ",        "b1+b2+b3+b4",         a1,        all},
-    {"5.6.b", rules_4_6_b_5_6_b,   "a1 + a2 +a3 + a4 ",   "b1+b2+b3",            a4,        all},
+    // case   distances          beside sum a: label, of bolts, of connectors; sum b likewise                      at zero
+    {"1.1. ", rules_1_1,         none,  {"a1 + a2",             2, 2},  {"b1 + b2",             2, 2},  none},
+    {"1.2.a", rules_1_2_a,       none,  {"a1+a2+a3",            3, 3},  {"b1 + b2 ",            2, 2},  none},
+    {"1.2.b", rules_1_2_b,       none,  {"a1+a2",               2, 2},  {"b1 + b2 +b3",         3, 3},  b3},
+    {"1.3.a", rules_1_3_a,       none,  {"a1+a2+a3+a4",         4, 4},  {"b1 + b2 ",            2, 2},  none},
+    {"1.3.b", rules_1_3_b,       none,  {"a1+a2",               2, 2},  {"b1 + b2 + b3 + b4",   4, 4},  b4},
+    {"1.4. ", rules_1_4,         none,  {"a1+a2+a3",            3, 3},  {"b1 + b2 +b3",         3, 3},  b3},
+    {"1.6. ", rules_1_6,         none,  {"a1+a2+a3+a4",         4, 4},  {"b1 + b2 +b3",         3, 3},  b3},
+    {"2.1. ", rules_2_1,         b4,    {"a1 + a2 ",            2, 2},  {"b1+b2",               2, 2},  none},
+    {"2.2. ", rules_2_2,         none,  {"a1 + a2 +a3",         3, 2},  {"b1+b2",               2, 2},  none}, // without Ca3
+    {"2.3. ", rules_2_3,         none,  {"a1 + a2 +a3 + a4",    4, 4},  {"b1+b2",               2, 2},  none},
+    {"2.4. ", rules_2_4,         none,  {"a1 + a2 +a3 ",        3, 3},  {"b1+b2+b3",            3, 3},  none},
+    {"2.6. ", rules_2_6,         none,  {"a1 + a2 +a3 + a4",    4, 4},  {"b1+b2+b3",            3, 3},  none},
+    {"3.1. ", rules_3_1,         none,  {"a1 + a2 ",            2, 2},  {"b1+b2",               2, 2},  none},
+    {"3.2.a", rules_3_2_a,       none,  {"a1 + a2 ",            2, 2},  {"b1+b2+b3",            3, 3},  none},
+    {"3.2.b", rules_3_2_b,       none,  {"a1 + a2 + a3 ",       3, 3},  {"b1+b2",               2, 2},  none},
+    {"3.3.a", rules_3_3_a,       none,  {"a1 + a2 ",            2, 2},  {"b1+b2+b3+b4",         4, 4},  none},
+    {"3.3.b", rules_3_3_b,       none,  {"a1 + a2 + a3 + a4",   4, 4},  {"b1+b2",               2, 2},  none},
+    {"3.4. ", rules_3_4,         none,  {"a1 + a2 + a3",        3, 3},  {"b1+b2+b3",            3, 3},  none},
+    {"3.6. ", rules_3_6,         none,  {"a1 + a2 + a3 + a4",   4, 4},  {"b1+b2+b3",            3, 3},  none},
+    {"4.1. ", rules_4_1,         none,  {"a1 + a2  ",           2, 2},  {"b1+b2",               2, 2},  a2},
+    {"4.2.a", rules_4_2_a,       none,  {"a1 + a2  ",           2, 2},  {"b1+b2+b3",            3, 3},  a2},
+    {"4.2.b", rules_4_2_b_5_2_b, none,  {"a1 + a2 +a3 ",        3, 3},  {"b1+b2",               2, 2},  a3},
+    {"4.3.a", rules_4_3_a,       none,  {"a1 + a2 ",            2, 2},  {"b1+b2+b3+b4",         4, 4},  a2},
+    {"4.3.b", rules_4_3_b_5_3_b, b4,    {"a1 + a2 +a3 + a4 ",   4, 4},  {"b1+b2",               2, 2},  a4},
+    {"4.4. ", rules_4_4,         none,  {"a1 + a2 +a3 ",        3, 3},  {"b1+b2+b3",            3, 3},  a3},
+    {"4.6.a", rules_4_6_a,       none,  {"a1 + a2 +a3 ",        3, 3},  {"b1+b2+b3+b4",         4, 4},  a3},
+    {"4.6.b", rules_4_6_b_5_6_b, none,  {"a1 + a2 +a3 + a4 ",   4, 4},  {"b1+b2+b3",            3, 3},  a4},
+    {"5.1. ", rules_5_1,         b5,    {"a1 + a2 ",            2, 2},  {"b1+b2",               2, 2},  a1},
+    {"5.2.a", rules_5_2_a,       none,  {"a1 + a2 ",            2, 2},  {"b1+b2+b3",            3, 3},  a1},
+    {"5.2.b", rules_4_2_b_5_2_b, none,  {"a1 + a2 + a3",        3, 3},  {"b1+b2",               2, 2},  a3},
+    {"5.3.a", rules_5_3_a,       none,  {"a1 + a2  ",           2, 2},  {"b1+b2+b3+b4",         4, 4},  a1},
+    {"5.3.b", rules_4_3_b_5_3_b, b4,    {"a1 + a2 +a3 + a4 ",   4, 4},  {"b1+b2",               2, 2},  a4},
+    {"5.4. ", rules_5_4,         none,  {"a1 + a2 +a3 ",        3, 3},  {"b1+b2+b3",            3, 3},  a1},
+    {"5.6.a", rules_5_6_a,       none,  {"a1 + a2 +a3 ",        3, 3},  {"b1+b2+b3+b4",         4, 4},  a1},
+    {"5.6.b", rules_4_6_b_5_6_b, none,  {"a1 + a2 +a3 + a4 ",   4, 4},  {"b1+b2+b3",            3, 3},  a4},
 }};
 // clang-format on
 
-constexpr bool Same_order() {
+// The rows of a case are all the distances of the joint in their order, a1 and on, b1 and on, and then the one beside
+// them: a row more or a row less does not compile.
+constexpr bool Lists(const CaseRules& rules, const CaseDistances& joint) {
+    const int in_a = joint.a.across + joint.a.along;
+    const int in_b = joint.b.across + joint.b.along;
+    const int all = in_a + in_b;
+    if (static_cast<int>(rules.distances.size()) != all + (rules.beside == none ? 0 : 1)) {
+        return false;
+    }
+    for (int i = 0; i < all; ++i) {
+        if (rules.distances[static_cast<std::size_t>(i)].distance != (i < in_a ? a1 + i : b1 + i - in_a)) {
+            return false;
+        }
+    }
+    return rules.beside == none || rules.distances.back().distance == rules.beside;
+}
+
+// A sum adds the distances across its member, the connectors' one no more than that, and its label names each of them.
+constexpr bool Adds(const SumRule& sum, int across, char family) {
+    int named = 0;
+    for (const char c : sum.label) {
+        named += c == family ? 1 : 0;
+    }
+    return sum.bolts == across && sum.connectors <= across && named == across;
+}
+
+constexpr bool Agree() {
     for (std::size_t i = 0; i < case_rules.size(); ++i) {
-        if (case_rules[i].Case_code != case_table[i].Case_code) {
+        const CaseRules& rules = case_rules[i];
+        const CaseDistances& joint = case_distances[i];
+        if (rules.Case_code != case_table[i].Case_code || joint.Case_code != case_table[i].Case_code ||
+            !Lists(rules, joint) || !Adds(rules.sum_a, joint.a.across, 'a') ||
+            !Adds(rules.sum_b, joint.b.across, 'b')) {
             return false;
         }
     }
     return true;
 }
-static_assert(Same_order());
-
-// The sum of a family adds its first distances, as many as its label names.
-constexpr int Named(std::string_view label, char family) {
-    int named = 0;
-    for (const char c : label) {
-        named += c == family ? 1 : 0;
-    }
-    return named;
-}
+static_assert(Agree());
 
 constexpr std::array<std::string_view, distance_count> labels{"a1", "a2", "a3", "a4", "a5", "a6",
                                                               "b1", "b2", "b3", "b4", "b5", "b6"};
@@ -739,6 +770,10 @@ float Sum(const SpacingRecord& record, int first, int n, float SpacingRecord::*D
 
 } // namespace
 
+std::string_view Label_of(Distance distance) {
+    return labels[distance];
+}
+
 const DistanceFields& Fields_of(Distance distance) {
     return distance_fields[distance];
 }
@@ -789,22 +824,20 @@ void Calc_spacing(ConnectionValues& s, int case_row) {
         }
     }
 
-    record.Sum_a_txt = rules.Sum_a_txt;
-    record.Sum_b_txt = rules.Sum_b_txt;
-    const int length_a = Sum_length_a(case_row);
-    const int length_b = Sum_length_b(case_row);
-    record.Sum_a = Sum(record, a1, length_a, &DistanceFields::S);
-    record.Sum_ca = Sum(record, a1, rules.summed_ca == all ? length_a : rules.summed_ca, &DistanceFields::C);
-    record.Sum_b = Sum(record, b1, length_b, &DistanceFields::S);
-    record.Sum_cb = Sum(record, b1, length_b, &DistanceFields::C);
+    record.Sum_a_txt = rules.sum_a.label;
+    record.Sum_b_txt = rules.sum_b.label;
+    record.Sum_a = Sum(record, a1, rules.sum_a.bolts, &DistanceFields::S);
+    record.Sum_ca = Sum(record, a1, rules.sum_a.connectors, &DistanceFields::C);
+    record.Sum_b = Sum(record, b1, rules.sum_b.bolts, &DistanceFields::S);
+    record.Sum_cb = Sum(record, b1, rules.sum_b.connectors, &DistanceFields::C);
 }
 
 int Sum_length_a(int case_row) {
-    return Named(case_rules[static_cast<std::size_t>(case_row)].Sum_a_txt, 'a');
+    return case_rules[static_cast<std::size_t>(case_row)].sum_a.bolts;
 }
 
 int Sum_length_b(int case_row) {
-    return Named(case_rules[static_cast<std::size_t>(case_row)].Sum_b_txt, 'b');
+    return case_rules[static_cast<std::size_t>(case_row)].sum_b.bolts;
 }
 
 } // namespace tarnvik

@@ -11,6 +11,7 @@
 #include "frontend/painting/EquationPictures.h"
 #include "frontend/painting/Texts.h"
 #include "spacing/Pictures.h"
+#include "spacing/sketch/Connection_picture.h"
 #include "spacing/sketch/Drawing.h"
 #include "spacing/sketch/Sketch.h"
 

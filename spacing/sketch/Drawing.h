@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <variant>
 #include <vector>
 
@@ -67,6 +68,10 @@ struct Drawing {
 struct TextSize {
     double width, height;
 };
+TextSize Size_of(std::string_view text, bool bold);
 TextSize Size_of(const TextShape& text);
+
+inline constexpr double letter_height = 10.5;
+inline constexpr double digit_width = 6.2;
 
 } // namespace tarnvik

@@ -5,7 +5,6 @@
 // rules of the case list.
 #pragma once
 
-#include <optional>
 #include <string_view>
 #include <vector>
 
@@ -26,24 +25,11 @@ struct Sketch {
     Drawing drawing;
     std::vector<SketchedDistance> distances;
     std::vector<Point> fasteners;
-    double unit{}; // pixels of an unloaded edge distance
+    double unit{}; // pixels of an unloaded edge distance; 0 where the sketch does not fit
     bool fits{};   // nothing that is drawn to be read leaves the room or touches a label
 };
 
 // The sketch of a case (a row of the catalogue) for tension or compression, composed for a room of that size in pixels.
 Sketch Draw_sketch(int case_row, bool compression, double width, double height);
-
-// Number of fasteners along the grain of member 1 and of member 2.
-struct Lattice {
-    int n1, n2;
-};
-Lattice Lattice_of(int case_row);
-
-// The picture of a connection for a code "1.1" to "5.3": the elevation, and beside it a section through the joint that
-// tells single from double members. Nothing for another code.
-std::optional<Drawing> Draw_connection(std::string_view Con_code, double width, double height);
-
-// The picture of a connection type 1 to 5 for a button: the elevation alone.
-Drawing Draw_type(int Con_type, double width, double height);
 
 } // namespace tarnvik

@@ -1,0 +1,47 @@
+// The chains of dimensions of a joint: across each member from edge to edge, and along it to its end. Joint
+// coordinates.
+#pragma once
+
+#include <optional>
+#include <string_view>
+#include <vector>
+
+#include "spacing/Rules.h"
+#include "spacing/sketch/Joint.h"
+
+namespace tarnvik {
+
+inline constexpr double label_gap = 2.5; // from a dimension line to its label
+
+// One distance of the case, from one edge, line of fasteners or end to the next.
+struct Dimension {
+    std::string_view label;
+    Segment line;
+    Point label_at;  // centre of the label
+    Rect label_room; // what the label covers
+    bool loaded{};   // an edge or an end towards which the force drives the fasteners
+};
+
+struct Chain {
+    std::vector<Dimension> dimensions; // one at least, each begins where the one before it ends
+    Point outward;                     // side of the labels
+    bool across{};                     // across the member, otherwise along it
+    std::vector<Segment> extensions;   // from fasteners, edges and ends to the ends of the dimensions
+
+    // From the first end to the last.
+    [[nodiscard]] Segment Line() const { return {dimensions.front().line.a, dimensions.back().line.b}; }
+};
+
+// Where the dimensions of a member stand.
+struct Place {
+    bool behind; // those across: on the side of the member's end, or of the lower end of one that runs through
+    bool clear;  // those across: outside what the other member covers
+    bool first;  // those along: outside the first edge
+};
+
+// The dimensions of the first or the second member, index 0 or 1, of which the rules list so many. A member with no
+// distance along it has no chain there.
+Chain Chain_across(const Joint& joint, std::size_t member, const Place& place, MemberDistances listed);
+std::optional<Chain> Chain_along(const Joint& joint, std::size_t member, const Place& place, MemberDistances listed);
+
+} // namespace tarnvik

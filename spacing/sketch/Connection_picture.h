@@ -1,0 +1,18 @@
+// The pictures of the connections and of their types, without dimensions.
+#pragma once
+
+#include <optional>
+#include <string_view>
+
+#include "spacing/sketch/Drawing.h"
+
+namespace tarnvik {
+
+// The picture of a connection for a code "1.1" to "5.3": the elevation, and beside it a section through the joint that
+// tells single from double members. Nothing for another code. Width and height in pixels.
+std::optional<Drawing> Draw_connection(std::string_view Con_code, double width, double height);
+
+// The picture of a connection type 1 to 5 for a button: the elevation alone. Empty for another type.
+Drawing Draw_type(int Con_type, double width, double height);
+
+} // namespace tarnvik

@@ -49,8 +49,6 @@ constexpr Words top_chord      {"Top chord",                 "Overgurt "};
 constexpr Words bottom_chord   {"Bottom chord",              "Undergurt "};
 // clang-format on
 
-constexpr std::array<std::string_view, 5> connector_sizes{"D50", "D62", "D75", "D95", "D117"};
-
 std::string Number(float value, std::string_view picture, std::string_view behind = {}) {
     std::string text{Format(value, picture).View()};
     text += behind;
@@ -94,8 +92,8 @@ void PrintGeneral(PrintTarget& target, ConnectionState& s, double X, double Y, s
 
     double y = Y;
     label(0, y, In(eng, bolt_type));
-    const auto bolt = static_cast<std::size_t>(s.Bolt_index);
-    value(52, y, bolt < bolt_table.size() ? bolt_table[bolt].caption : std::string_view{});
+    const BoltRow* bolt = Row_of(bolt_table, s.Bolt_index);
+    value(52, y, bolt != nullptr ? bolt->caption : std::string_view{});
     label(58, y, In(eng, number_of_bolts));
     value(85, y, Number(s.n_bolt, "0"));
     label(98, y, "fuk=");
@@ -107,8 +105,8 @@ void PrintGeneral(PrintTarget& target, ConnectionState& s, double X, double Y, s
         label(0, y, In(eng, connector));
         value(52, y, In(eng, double_sided));
         label(58, y, In(eng, dimension));
-        const auto size = static_cast<std::size_t>(s.Bulldog_index);
-        value(85, y, size < connector_sizes.size() ? connector_sizes[size] : std::string_view{});
+        const ConnectorRow* size = Row_of(connector_table, s.Bulldog_index);
+        value(85, y, size != nullptr ? size->size : std::string_view{});
         label(98, y, In(eng, capacity));
         value(143, y, Number(s.Fv_Rk, "0.00", "  kN"));
     }

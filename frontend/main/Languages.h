@@ -26,7 +26,7 @@ struct MemberRow {
 };
 
 // The row of a type 1 to 5, or null.
-const MemberRow* Member_names(int Con_type, bool english);
+const MemberRow* Member_captions(int Con_type, bool english);
 
 // Lines of the About window.
 struct AboutTexts {

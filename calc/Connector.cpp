@@ -66,6 +66,10 @@ static_assert(Every_pair_is_stated(), "a connector of the table says which bolts
 constexpr float he_D95 = 9.5F;
 constexpr float he_D117 = 12.5F;
 
+// Of (8.78).
+constexpr double reference_density = 350.0; // kg/m3
+constexpr float largest_k3 = 1.5F;
+
 } // namespace
 
 void Bulldog_check(ConnectionValues& s, const ScreenWriter& show, MessageBox& box) {
@@ -96,14 +100,16 @@ void Bulldog_k(const ConnectionValues& s, float& k1, float& k2, float& k3, float
     } else if (dc == 117.0F) {
         he_c = he_D117;
     }
+    // (8.73)
     k1 = MinVal(3, 1.0F, Store(Divide(s.t1, 3.0 * he_c, where), where), Store(Divide(s.t2, 5.0 * he_c, where), where));
-    // The end distance is taken as that of the minimum spacing, whatever it is.
+    // (8.74). The end distance is taken as that of the minimum spacing, whatever it is.
     const float a3t = Store(dc * 1.5, where);
     const float ratio = Store(Divide(a3t, dc * 1.5, where), where);
     k2 = ratio > 1.0F ? 1.0F : ratio;
-    k3 = Store(s.rho_k / 350.0, where);
-    if (1.5F < k3) {
-        k3 = 1.5F;
+    // (8.78)
+    k3 = Store(s.rho_k / reference_density, where);
+    if (largest_k3 < k3) {
+        k3 = largest_k3;
     }
 }
 

@@ -74,10 +74,12 @@ void Get_rows(ConnectionValues& s) {
 
 void Get_nef(ConnectionValues& s) {
     constexpr std::string_view where = "Main_beregn";
+    // (8.34)
     s.nef_b_row = Store(Power(s.n_row, 0.9, where) * Power(Divide(s.a1, 13.0 * s.d, where), 0.25, where), where);
     if (s.nef_b_row > s.n_row) {
         s.nef_b_row = s.n_row;
     }
+    // (8.71)
     s.nef_f_row = Store(2.0 + (1.0 - s.n_row / 20.0) * (s.n_row - 2), where);
     s.nef_f = Store(static_cast<double>(s.rows) * s.nef_f_row, where);
     s.nef_b = Store(static_cast<double>(s.rows) * s.nef_b_row, where);

@@ -6,48 +6,82 @@ namespace tarnvik {
 
 namespace {
 
-// Which bolts a connector refuses, by the row of the bolt table modulo 4 (M12, M16, M20, M24): both qualities count.
-struct Refusal {
-    bool M12, M16, M20, M24;
-};
-constexpr std::array<Refusal, 5> refusals{{
-    {false, false, true, true},  // D50
-    {false, false, false, true}, // D62
-    {false, false, false, true}, // D75
-    {true, false, false, false}, // D95
-    {true, false, false, false}, // D117
-}};
+enum Fit : std::uint8_t { unstated, fits, refused };
 
-bool Refuses(const Refusal& connector, int Bolt_index) {
-    switch (Bolt_index) {
-    case 0:
-    case 4:
-        return connector.M12;
-    case 1:
-    case 5:
-        return connector.M16;
-    case 2:
-    case 6:
-        return connector.M20;
-    case 3:
-    case 7:
-        return connector.M24;
-    default:
-        return false;
+constexpr std::array<float, 4> bolt_diameters{12.0F, 16.0F, 20.0F, 24.0F}; // mm
+
+// Which bolts a connector refuses, by the diameter of the bolt: both qualities count. A row for each connector of the
+// connector table, in its order, a column for each diameter of the bolt table.
+struct ConnectorFits {
+    float dc;
+    std::array<Fit, bolt_diameters.size()> bolts;
+};
+// clang-format off
+constexpr std::array<ConnectorFits, connector_table.size()> connector_fits{{
+    // dc       M12      M16      M20      M24
+    { 50.0F, {{fits,    fits,    refused, refused}}},
+    { 62.0F, {{fits,    fits,    fits,    refused}}},
+    { 75.0F, {{fits,    fits,    fits,    refused}}},
+    { 95.0F, {{refused, fits,    fits,    fits}}},
+    {117.0F, {{refused, fits,    fits,    fits}}},
+}};
+// clang-format on
+
+// The column of a bolt; the number of columns where it has none.
+constexpr std::size_t Column_of(const BoltRow& bolt) {
+    std::size_t column = 0;
+    while (column < bolt_diameters.size() && bolt_diameters[column] != bolt.d) {
+        ++column;
     }
+    return column;
 }
+
+constexpr bool Every_bolt_has_a_column() {
+    for (const BoltRow& bolt : bolt_table) {
+        if (Column_of(bolt) == bolt_diameters.size()) {
+            return false;
+        }
+    }
+    return true;
+}
+static_assert(Every_bolt_has_a_column(), "a bolt of the table says with which connectors it fits");
+
+constexpr bool Every_pair_is_stated() {
+    for (std::size_t i = 0; i < connector_table.size(); ++i) {
+        if (connector_fits[i].dc != connector_table[i].dc) {
+            return false;
+        }
+        for (const Fit fit : connector_fits[i].bolts) {
+            if (fit == unstated) {
+                return false;
+            }
+        }
+    }
+    return true;
+}
+static_assert(Every_pair_is_stated(), "a connector of the table says which bolts it refuses");
+
+// Depth of the teeth of the two large sizes, mm, in place of (hc - t) / 2, which gives 11.325 and 14.25: a deliberate
+// exception.
+constexpr float he_D95 = 9.5F;
+constexpr float he_D117 = 12.5F;
+
+// Of (8.78).
+constexpr double reference_density = 350.0; // kg/m3
+constexpr float largest_k3 = 1.5F;
 
 } // namespace
 
 void Bulldog_check(ConnectionValues& s, const ScreenWriter& show, MessageBox& box) {
-    if (s.Bulldog_index < 0 || s.Bulldog_index >= static_cast<int>(refusals.size())) {
+    const ConnectorFits* connector = Row_of(connector_fits, s.Bulldog_index);
+    if (connector == nullptr) {
         return;
     }
-    const bool refused = Refuses(refusals[static_cast<std::size_t>(s.Bulldog_index)], s.Bolt_index);
-    show.Back(Control::Comb_bulldog, refused ? colour_green_box : colour_white_box);
-    show.Enabled(Control::mnuprint, !refused);
-    s.Bulldog_invalid = refused;
-    if (!refused) {
+    const BoltRow* bolt = Row_of(bolt_table, s.Bolt_index);
+    s.Bulldog_invalid = bolt != nullptr && connector->bolts[Column_of(*bolt)] == refused;
+    show.Back(Control::Comb_bulldog, s.Bulldog_invalid ? colour_green_box : colour_white_box);
+    show.Enabled(Control::mnuprint, !s.Bulldog_invalid);
+    if (!s.Bulldog_invalid) {
         return;
     }
     // One message for a bolt that is too large and for one that is too small.
@@ -62,31 +96,32 @@ void Bulldog_k(const ConnectionValues& s, float& k1, float& k2, float& k3, float
     constexpr std::string_view where = "Bulldog_k";
     float he_c = Store((static_cast<double>(hc) - t) / 2.0, where);
     if (dc == 95.0F) {
-        he_c = 9.5F; // in place of 11.325
+        he_c = he_D95;
     } else if (dc == 117.0F) {
-        he_c = 12.5F; // in place of 14.25
+        he_c = he_D117;
     }
+    // (8.73)
     k1 = MinVal(3, 1.0F, Store(Divide(s.t1, 3.0 * he_c, where), where), Store(Divide(s.t2, 5.0 * he_c, where), where));
-    // The end distance is taken as that of the minimum spacing, whatever it is.
+    // (8.74). The end distance is taken as that of the minimum spacing, whatever it is.
     const float a3t = Store(dc * 1.5, where);
     const float ratio = Store(Divide(a3t, dc * 1.5, where), where);
     k2 = ratio > 1.0F ? 1.0F : ratio;
-    k3 = Store(s.rho_k / 350.0, where);
-    if (1.5F < k3) {
-        k3 = 1.5F;
+    // (8.78)
+    k3 = Store(s.rho_k / reference_density, where);
+    if (largest_k3 < k3) {
+        k3 = largest_k3;
     }
 }
 
 void Bulldog_Rk(ConnectionValues& s, float& Fv_Rk_kN) {
     constexpr std::string_view where = "Bulldog_Rk";
-    if (s.Bulldog_index >= 0 && s.Bulldog_index < static_cast<int>(connector_table.size())) {
-        const ConnectorRow& row = connector_table[static_cast<std::size_t>(s.Bulldog_index)];
-        s.hc = row.hc;
+    if (const ConnectorRow* row = Row_of(connector_table, s.Bulldog_index)) {
+        s.hc = row->hc;
         float k1 = 0.0F;
         float k2 = 0.0F;
         float k3 = 0.0F;
-        Bulldog_k(s, k1, k2, k3, row.t, row.hc, row.dc);
-        Fv_Rk_kN = Store(25.0 * k1 * k2 * k3 * Power(row.dc, 1.5, where) / 1000.0, where);
+        Bulldog_k(s, k1, k2, k3, row->t, row->hc, row->dc);
+        Fv_Rk_kN = Store(25.0 * k1 * k2 * k3 * Power(row->dc, 1.5, where) / 1000.0, where);
     }
     s.Fv_Rk = Fv_Rk_kN;
 }

@@ -48,9 +48,17 @@ constexpr std::array<RowOfCase, 22> row_table{{
 }};
 // clang-format on
 
-void Get_rows(ConnectionValues& s, char type) {
+// Shear planes of the connection.
+double Planes(const ConnectionValues& s) {
+    return s.dob_1 || s.dob_2 ? 2.0 : 1.0;
+}
+
+} // namespace
+
+void Get_rows(ConnectionValues& s) {
+    s.Has_row = false;
     const std::string_view code = s.Case_code.View();
-    if (code.front() != type) {
+    if (code.front() - '0' != s.Con_type) {
         return;
     }
     for (const RowOfCase& row : row_table) {
@@ -64,39 +72,14 @@ void Get_rows(ConnectionValues& s, char type) {
     }
 }
 
-// Shear planes of the connection.
-double Planes(const ConnectionValues& s) {
-    return s.dob_1 || s.dob_2 ? 2.0 : 1.0;
-}
-
-} // namespace
-
-void Get_rows_1(ConnectionValues& s) {
-    Get_rows(s, '1');
-}
-
-void Get_rows_2(ConnectionValues& s) {
-    Get_rows(s, '2');
-}
-
-void Get_rows_3(ConnectionValues& s) {
-    Get_rows(s, '3');
-}
-
-void Get_rows_4(ConnectionValues& s) {
-    Get_rows(s, '4');
-}
-
-void Get_rows_5(ConnectionValues& s) {
-    Get_rows(s, '5');
-}
-
 void Get_nef(ConnectionValues& s) {
     constexpr std::string_view where = "Main_beregn";
+    // (8.34)
     s.nef_b_row = Store(Power(s.n_row, 0.9, where) * Power(Divide(s.a1, 13.0 * s.d, where), 0.25, where), where);
     if (s.nef_b_row > s.n_row) {
         s.nef_b_row = s.n_row;
     }
+    // (8.71)
     s.nef_f_row = Store(2.0 + (1.0 - s.n_row / 20.0) * (s.n_row - 2), where);
     s.nef_f = Store(static_cast<double>(s.rows) * s.nef_f_row, where);
     s.nef_b = Store(static_cast<double>(s.rows) * s.nef_b_row, where);

@@ -4,17 +4,8 @@
 
 namespace tarnvik {
 
-namespace {
-
-// The row of a table, or nothing where the index lies outside it.
-template <class Table> const typename Table::value_type* Row(const Table& table, int index) {
-    return index >= 0 && index < static_cast<int>(table.size()) ? &table[static_cast<std::size_t>(index)] : nullptr;
-}
-
-} // namespace
-
 void Get_bolt(ConnectionValues& s) {
-    if (const BoltRow* row = Row(bolt_table, s.Bolt_index)) {
+    if (const BoltRow* row = Row_of(bolt_table, s.Bolt_index)) {
         s.d = row->d;
         s.fuk = row->fuk;
     }
@@ -26,7 +17,7 @@ void Get_skive(ConnectionValues& s) {
 }
 
 void Get_material(ConnectionState& s, int index) {
-    const MatRecord* row = Row(s.Mat, index);
+    const MatRecord* row = Row_of(s.Mat, index);
     if (row == nullptr) {
         Raise(fault_subscript, "Get_material");
     }
@@ -35,7 +26,7 @@ void Get_material(ConnectionState& s, int index) {
 }
 
 void Get_gm(ConnectionState& s) {
-    const MatRecord* row = Row(s.Mat, s.Mat_index);
+    const MatRecord* row = Row_of(s.Mat, s.Mat_index);
     if (row == nullptr) {
         Raise(fault_subscript, "Get_gm");
     }
@@ -51,7 +42,7 @@ void Get_gm(ConnectionState& s) {
 }
 
 void Get_kmod(ConnectionValues& s) {
-    if (const ClassRow* row = Row(class_table, s.Lastvar - 1)) {
+    if (const ClassRow* row = Row_of(class_table, s.Lastvar - 1)) {
         if (s.Klima == 1 || s.Klima == 2) {
             s.kmod = row->kmod_12;
         } else if (s.Klima == 3) {
@@ -61,7 +52,7 @@ void Get_kmod(ConnectionValues& s) {
 }
 
 void Get_n_bolt(ConnectionValues& s) {
-    if (const std::int16_t* number = Row(bolt_numbers, s.Ant_index)) {
+    if (const std::int16_t* number = Row_of(bolt_numbers, s.Ant_index)) {
         s.n_bolt = *number;
     }
 }
@@ -87,7 +78,7 @@ void Get_Con_code(ConnectionValues& s) {
 }
 
 void Get_dc(ConnectionValues& s) {
-    if (const ConnectorRow* row = Row(connector_table, s.Bulldog_index)) {
+    if (const ConnectorRow* row = Row_of(connector_table, s.Bulldog_index)) {
         s.dc = row->picked_dc;
     }
 }

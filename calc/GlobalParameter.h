@@ -7,6 +7,7 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -176,21 +177,22 @@ inline constexpr std::array<BoltRow, 8> bolt_table{{
     {"M24x8.8", 24.0F, 800.0F},
 }};
 
-// Double-sided tooth-plate connectors of type C1.
+// Double-sided tooth-plate connectors of type C1. Which bolts a connector refuses stands in calc/Connector.cpp.
 struct ConnectorRow {
     std::string_view caption_eng;
     std::string_view caption_nor;
-    float picked_dc; // diameter that picking the connector puts into the state, mm: D50 gives 48 there
-    float dc;        // diameter in the strength formula, mm
-    float hc;        // height over the teeth, mm
-    float t;         // plate thickness, mm
+    std::string_view size; // as the report prints it
+    float picked_dc;       // diameter that picking the connector puts into the state, mm: D50 gives 48 there
+    float dc;              // diameter in the strength formula, mm
+    float hc;              // height over the teeth, mm
+    float t;               // plate thickness, mm
 };
 inline constexpr std::array<ConnectorRow, 5> connector_table{{
-    {"Double-sided D50", "Tosidig D50", 48.0F, 50.0F, 13.0F, 1.0F},
-    {"Double-sided D62", "Tosidig D62", 62.0F, 62.0F, 16.0F, 1.2F},
-    {"Double-sided D75", "Tosidig D75", 75.0F, 75.0F, 19.5F, 1.25F},
-    {"Double-sided D95", "Tosidig D95", 95.0F, 95.0F, 24.0F, 1.35F},
-    {"Double-sided D117", "Tosidig D117", 117.0F, 117.0F, 30.0F, 1.5F},
+    {"Double-sided D50", "Tosidig D50", "D50", 48.0F, 50.0F, 13.0F, 1.0F},
+    {"Double-sided D62", "Tosidig D62", "D62", 62.0F, 62.0F, 16.0F, 1.2F},
+    {"Double-sided D75", "Tosidig D75", "D75", 75.0F, 75.0F, 19.5F, 1.25F},
+    {"Double-sided D95", "Tosidig D95", "D95", 95.0F, 95.0F, 24.0F, 1.35F},
+    {"Double-sided D117", "Tosidig D117", "D117", 117.0F, 117.0F, 30.0F, 1.5F},
 }};
 
 inline constexpr std::array<std::int16_t, 5> bolt_numbers{1, 2, 3, 4, 6}; // row = Ant_index
@@ -209,6 +211,11 @@ inline constexpr std::array<ClassRow, 5> class_table{{
     {"Short term action", "Kortidslast   ", 0.9F, 0.7F},
     {"Instantaneous action", "Øyeblikkslast ", 1.1F, 0.9F},
 }};
+
+// The row of a table, or null where the index lies outside it.
+template <class Table> constexpr const typename Table::value_type* Row_of(const Table& table, int index) {
+    return index >= 0 && index < static_cast<int>(table.size()) ? &table[static_cast<std::size_t>(index)] : nullptr;
+}
 
 // d and fuk from Bolt_index; a row outside the table leaves them.
 void Get_bolt(ConnectionValues& s);

@@ -24,15 +24,17 @@ enum FaultNumber : int {
     fault_path_not_found = 76,
 };
 
+// `where` names the procedure that raised the fault, as messages and results show it: that of the calculation or of the
+// files, under the name that its users know. A step of the pass that has no name of its own says Main_beregn.
 struct RuntimeFault {
     int number{};
     std::string_view description; // static text, lower case
-    std::string_view where;       // static text: the procedure that raised it
+    std::string_view where;       // static text
 };
 
 std::string_view Fault_description(int number);
 
-// Throws RuntimeFault. `where` has to be a literal.
+// Throws RuntimeFault. `where` has to be a literal: the name of the procedure, as above.
 [[noreturn]] void Raise(int number, std::string_view where);
 
 // "Run-time error 5: invalid procedure call or argument (Tverr_brudd)"

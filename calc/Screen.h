@@ -1,6 +1,10 @@
 // What the controls of the main window show, as a plain record: a pass writes it, the front end applies it.
 //
-// A Screen lives as long as its state. What a pass does not reach keeps what the last pass wrote, as on a real window.
+// A Screen lives as long as its state. No pass clears the controls: what it does not reach keeps what an earlier one
+// wrote, and so a stopped pass leaves standing what the user has before him. Of the two that run passes
+//  - the window empties `controls` before each pass and puts on its controls only what that pass wrote: a text that the
+//    user has typed since the last one stays. Tables and pictures it takes as they stand.
+//  - the headless tool has one for each result, clears nothing between its passes, and shows what has come together.
 #pragma once
 
 #include <array>

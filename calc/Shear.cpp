@@ -68,6 +68,71 @@ void Bolt_values(ConnectionValues& s, std::string_view where) {
         Store((Square(s.d_skive) - Square(static_cast<double>(s.d) + 2.0)) * 3.0 * s.fc90k * (PI / 4.0), where);
 }
 
+// What the failure modes of a shear plane are made of.
+struct ShearPlane {
+    double d, t1, t2, fh, be, My; // fh of the member of t1
+    std::string_view where;
+};
+
+ShearPlane Plane_of(const ConnectionValues& s, float fh1k, float beta, std::string_view where) {
+    return {s.d, s.t1, s.t2, fh1k, beta, s.My_Rk, where};
+}
+
+// The failure modes without the rope effect, N. All of double shear but h are formulas of single shear.
+
+// (8.6) a, (8.7) g
+float Mode_a_g(const ShearPlane& p) {
+    return Store(p.t1 * p.fh * p.d, p.where);
+}
+
+// (8.6) b
+float Mode_b(const ShearPlane& p, float fh2k) {
+    return Store(p.t2 * fh2k * p.d, p.where);
+}
+
+// (8.6) c
+float Mode_c(const ShearPlane& p) {
+    const double be = p.be;
+    const double r = Divide(p.t2, p.t1, p.where);
+    return Store(
+        Divide(p.d * p.fh * p.t1, be + 1.0, p.where) *
+            (Root(be + 2.0 * Square(be) * (1.0 + r + Square(r)) + be * be * be * Square(r), p.where) - (r + 1.0) * be),
+        p.where);
+}
+
+// (8.6) d, (8.7) j
+float Mode_d_j(const ShearPlane& p) {
+    const double be = p.be;
+    return Store(
+        Divide(1.05 * p.d * p.fh * p.t1, be + 2.0, p.where) *
+            (Root(2.0 * be * (be + 1.0) + Divide(4.0 * be * (be + 2.0) * p.My, Square(p.t1) * p.d * p.fh, p.where),
+                  p.where) -
+             be),
+        p.where);
+}
+
+// (8.6) e
+float Mode_e(const ShearPlane& p) {
+    const double be = p.be;
+    return Store(Divide(1.05 * p.d * p.fh * p.t2, 2.0 * be + 1.0, p.where) *
+                     (Root(2.0 * Square(be) * (be + 1.0) +
+                               Divide(4.0 * be * (2.0 * be + 1.0) * p.My, Square(p.t2) * p.d * p.fh, p.where),
+                           p.where) -
+                      be),
+                 p.where);
+}
+
+// (8.6) f, (8.7) k
+float Mode_f_k(const ShearPlane& p) {
+    return Store(1.15 * Root(Divide(2.0 * p.be, p.be + 1.0, p.where), p.where) * Root(2.0 * p.My * p.fh * p.d, p.where),
+                 p.where);
+}
+
+// (8.7) h
+float Mode_h(const ShearPlane& p, float fh2k) {
+    return Store(0.5 * fh2k * p.t2 * p.d, p.where);
+}
+
 // 8.2.2 (2): the rope effect adds a quarter of the axial capacity, at most 25 % of the Johansen part, taken on each
 // mode by itself before the modes are compared.
 float With_rope(float johansen, float Fax_q, std::string_view where) {
@@ -88,34 +153,13 @@ void Get_fh(ConnectionValues& s, double angle1, double angle2, float& fh1k, floa
 void Enkeltsnitt_Rk(ConnectionValues& s, float fh1k, float fh2k, float beta, float& Rk) {
     constexpr std::string_view where = "Enkeltsnitt_Rk";
     Bolt_values(s, where);
-
-    const double d = s.d;
-    const double t1 = s.t1;
-    const double t2 = s.t2;
-    const double fh = fh1k;
-    const double be = beta;
-    const double My = s.My_Rk;
-
-    s.Fv_a = Store(t1 * fh * d, where);
-    s.Fv_b = Store(t2 * fh2k * d, where);
-
-    const double r = Divide(t2, t1, where);
-    const float c0 = Store(
-        Divide(d * fh * t1, be + 1.0, where) *
-            (Root(be + 2.0 * Square(be) * (1.0 + r + Square(r)) + be * be * be * Square(r), where) - (r + 1.0) * be),
-        where);
-    const float d0 = Store(
-        Divide(1.05 * d * fh * t1, be + 2.0, where) *
-            (Root(2.0 * be * (be + 1.0) + Divide(4.0 * be * (be + 2.0) * My, Square(t1) * d * fh, where), where) - be),
-        where);
-    const float e0 = Store(
-        Divide(1.05 * d * fh * t2, 2.0 * be + 1.0, where) *
-            (Root(2.0 * Square(be) * (be + 1.0) + Divide(4.0 * be * (2.0 * be + 1.0) * My, Square(t2) * d * fh, where),
-                  where) -
-             be),
-        where);
-    const float f0 =
-        Store(1.15 * Root(Divide(2.0 * be, be + 1.0, where), where) * Root(2.0 * My * fh * d, where), where);
+    const ShearPlane plane = Plane_of(s, fh1k, beta, where);
+    s.Fv_a = Mode_a_g(plane);
+    s.Fv_b = Mode_b(plane, fh2k);
+    const float c0 = Mode_c(plane);
+    const float d0 = Mode_d_j(plane);
+    const float e0 = Mode_e(plane);
+    const float f0 = Mode_f_k(plane);
 
     const float Fax_q = Store(MinVal(2, s.Fax_bolt, s.Fax_skive) / 4.0, where);
     s.Fv_c = With_rope(c0, Fax_q, where);
@@ -128,23 +172,11 @@ void Enkeltsnitt_Rk(ConnectionValues& s, float fh1k, float fh2k, float beta, flo
 void Dobbeltsnitt_Rk(ConnectionValues& s, float fh1k, float fh2k, float beta, float& Rk) {
     constexpr std::string_view where = "Dobbeltsnitt_Rk";
     Bolt_values(s, where);
-
-    const double d = s.d;
-    const double t1 = s.t1;
-    const double t2 = s.t2;
-    const double fh = fh1k;
-    const double be = beta;
-    const double My = s.My_Rk;
-
-    s.Fv_g = Store(t1 * fh * d, where);
-    s.Fv_h = Store(0.5 * fh2k * t2 * d, where);
-
-    const float j0 = Store(
-        Divide(1.05 * d * fh * t1, be + 2.0, where) *
-            (Root(2.0 * be * (be + 1.0) + Divide(4.0 * be * (be + 2.0) * My, Square(t1) * d * fh, where), where) - be),
-        where);
-    const float k0 =
-        Store(1.15 * Root(Divide(2.0 * be, be + 1.0, where), where) * Root(2.0 * My * fh * d, where), where);
+    const ShearPlane plane = Plane_of(s, fh1k, beta, where);
+    s.Fv_g = Mode_a_g(plane);
+    s.Fv_h = Mode_h(plane, fh2k);
+    const float j0 = Mode_d_j(plane);
+    const float k0 = Mode_f_k(plane);
 
     s.Fax_min = MinVal(2, s.Fax_bolt, s.Fax_skive);
     const float Fax_q = Store(s.Fax_min / 4.0, where);

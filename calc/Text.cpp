@@ -95,6 +95,54 @@ float Numeric_value(std::string_view number, std::string_view where) {
     return Store(negative ? -value : value, where);
 }
 
+struct Picture {
+    std::size_t leading_blanks{}, digits{}, decimals{}, trailing_blanks{};
+};
+
+Picture Read_picture(std::string_view picture) {
+    Picture wanted;
+    while (wanted.leading_blanks < picture.size() && picture[wanted.leading_blanks] == ' ') {
+        ++wanted.leading_blanks;
+    }
+    bool point = false;
+    for (const char c : picture) {
+        if (c == '.') {
+            point = true;
+        } else if (c == '0') {
+            ++(point ? wanted.decimals : wanted.digits);
+        }
+    }
+    wanted.trailing_blanks = picture.size() - Right_trim(picture).size();
+    return wanted;
+}
+
+using Digits = std::array<char, 64>;
+
+// The digits of a number with so many decimals, without its decimal sign, rounded half up.
+//
+// A 32-bit float times 10, 100 or 1000 is exact in double, and so are its whole and its broken part: the half that
+// decides is never a rounded one.
+std::string_view Rounded_digits(double magnitude, std::size_t decimals, Digits& buffer) {
+    double scale = 1.0;
+    for (std::size_t i = 0; i < decimals; ++i) {
+        scale *= 10.0;
+    }
+    const double scaled = magnitude * scale;
+    double rounded = std::trunc(scaled);
+    if (scaled - rounded >= 0.5) {
+        rounded += 1.0;
+    }
+    char* const begin = buffer.data();
+    const auto end = std::to_chars(begin, begin + buffer.size(), rounded, std::chars_format::fixed, 0).ptr;
+    return {begin, static_cast<std::size_t>(end - begin)};
+}
+
+void Append(ShortText& text, std::size_t count, char c) {
+    for (std::size_t i = 0; i < count; ++i) {
+        text.Append(c);
+    }
+}
+
 } // namespace
 
 std::size_t Character_count(std::string_view utf8) {
@@ -155,77 +203,38 @@ char Decimal_sign() {
 }
 
 ShortText Format(float value, std::string_view picture) {
-    std::size_t leading_blanks = 0;
-    while (leading_blanks < picture.size() && picture[leading_blanks] == ' ') {
-        ++leading_blanks;
-    }
-    std::size_t digits = 0;
-    std::size_t decimals = 0;
-    bool point = false;
-    for (const char c : picture) {
-        if (c == '.') {
-            point = true;
-        } else if (c == '0') {
-            ++(point ? decimals : digits);
-        }
-    }
-    const std::size_t trailing_blanks = picture.size() - Right_trim(picture).size();
-
+    const Picture wanted = Read_picture(picture);
     ShortText text;
     if (!std::isfinite(value)) {
         text.Append(std::isnan(value) ? "NaN" : value < 0.0F ? "-Inf" : "Inf");
         return text;
     }
 
-    // A 32-bit float times 10, 100 or 1000 is exact in double, and so are its whole and its broken part: the half that
-    // decides is never a rounded one. Beyond 2^53 a float is a whole number and needs no rounding at all.
     const double magnitude = std::fabs(static_cast<double>(value));
-    const bool whole_only = magnitude >= 0x1p40;
-    double scale = 1.0;
-    for (std::size_t i = 0; i < decimals; ++i) {
-        scale *= 10.0;
-    }
-    const double scaled = whole_only ? magnitude : magnitude * scale;
-    double rounded = std::trunc(scaled);
-    if (scaled - rounded >= 0.5) {
-        rounded += 1.0;
-    }
-
-    std::array<char, 64> buffer{};
-    const auto end =
-        std::to_chars(buffer.data(), buffer.data() + buffer.size(), rounded, std::chars_format::fixed, 0).ptr;
-    std::string_view number{buffer.data(), static_cast<std::size_t>(end - buffer.data())};
+    const bool whole_only = magnitude >= 0x1p40; // a float as large has no broken part that could be rounded
+    const std::size_t broken = whole_only ? 0 : wanted.decimals;
+    Digits buffer{};
+    const std::string_view number = Rounded_digits(magnitude, broken, buffer);
     const bool zero = number == "0";
 
     if (value < 0.0F && !zero) {
         text.Append('-');
     }
-    for (std::size_t i = 0; i < leading_blanks; ++i) {
-        text.Append(' ');
-    }
-    const std::size_t broken = whole_only ? 0 : decimals;
+    Append(text, wanted.leading_blanks, ' ');
     const std::size_t whole = number.size() > broken ? number.size() - broken : 0;
     const bool nothing_before = whole == 0 || (broken == 0 && zero);
     const std::size_t shown = nothing_before ? 0 : whole;
-    for (std::size_t i = shown; i < digits; ++i) {
-        text.Append('0');
+    if (shown < wanted.digits) {
+        Append(text, wanted.digits - shown, '0');
     }
-    if (shown > 0) {
-        text.Append(number.substr(0, whole));
-    }
-    if (decimals > 0) {
-        text.Append(decimal_sign);
+    text.Append(number.substr(0, shown));
+    if (wanted.decimals > 0) {
         const std::string_view tail = number.substr(whole);
-        for (std::size_t i = whole_only ? 0 : tail.size(); i < decimals; ++i) {
-            text.Append('0');
-        }
-        if (!whole_only) {
-            text.Append(tail);
-        }
+        text.Append(decimal_sign);
+        Append(text, wanted.decimals - tail.size(), '0');
+        text.Append(tail);
     }
-    for (std::size_t i = 0; i < trailing_blanks; ++i) {
-        text.Append(' ');
-    }
+    Append(text, wanted.trailing_blanks, ' ');
     return text;
 }
 

@@ -30,6 +30,12 @@ public:
     FixedText(std::string_view text) { Assign(text); } // NOLINT(google-explicit-constructor): a text like any other
     FixedText(const char* text) : FixedText(std::string_view{text}) {} // NOLINT(google-explicit-constructor)
 
+    // A text of another length is cut or filled up.
+    template <std::size_t M> FixedText& operator=(const FixedText<M>& other) {
+        Assign(other.View());
+        return *this;
+    }
+
     [[nodiscard]] std::string_view View() const { return {bytes_.data(), size_}; }
     operator std::string_view() const { return View(); } // NOLINT(google-explicit-constructor)
 

@@ -6,6 +6,8 @@
 #include <cstdint>
 #include <fstream>
 #include <system_error>
+#include <tuple>
+#include <utility>
 
 #include "calc/RuntimeFault.h"
 #include "data/CodePage.h"
@@ -21,29 +23,25 @@ namespace {
 
 constexpr std::string_view where = "Open_project";
 
-constexpr std::size_t reserved_bytes = 624;
-constexpr int reserved_texts = 101;
-constexpr std::size_t reserved_fixed_text = 100; // twice
-
-// Numbers little-endian, texts in Windows-1252.
+// Numbers little-endian, texts in Windows-1252, a fixed text without and any other with its length before it.
 class Writer {
 public:
-    void Number(std::int16_t value) { Word(static_cast<std::uint16_t>(value)); }
-    void Number(float value) {
+    void Field(std::int16_t value) { Word(static_cast<std::uint16_t>(value)); }
+    void Field(float value) {
         auto bits = std::bit_cast<std::uint32_t>(value);
         for (int i = 0; i < 4; ++i) {
             bytes_ += static_cast<char>(bits & 0xFFU);
             bits >>= 8U;
         }
     }
-    void Number(bool value) { Number(static_cast<std::int16_t>(value ? -1 : 0)); }
+    void Field(bool value) { Field(static_cast<std::int16_t>(value ? -1 : 0)); }
     // A damaged text may have more bytes than characters: the width of the field is what readers count on.
-    template <std::size_t N> void Fixed(const FixedText<N>& text) {
+    template <std::size_t N> void Field(const FixedText<N>& text) {
         std::string encoded = To_windows_1252(text);
         encoded.resize(N, ' ');
         bytes_ += encoded;
     }
-    void Counted(std::string_view text) {
+    void Field(const std::string& text) {
         std::string encoded = To_windows_1252(text);
         if (encoded.size() > 0xFFFFU) { // the length is 16 bits wide
             encoded.resize(0xFFFFU);
@@ -51,7 +49,8 @@ public:
         Word(static_cast<std::uint16_t>(encoded.size()));
         bytes_ += encoded;
     }
-    void Zeros(std::size_t count) { bytes_.append(count, '\0'); }
+    void Reserved(std::size_t count) { bytes_.append(count, '\0'); }
+    void Reserved_text() { Word(0); }
     std::string Take() { return std::move(bytes_); }
 
 private:
@@ -67,8 +66,8 @@ class Reader {
 public:
     explicit Reader(std::istream& file) : file_(file) {}
 
-    void Number(std::int16_t& value) { value = static_cast<std::int16_t>(Word()); }
-    void Number(float& value) {
+    void Field(std::int16_t& value) { value = static_cast<std::int16_t>(Word()); }
+    void Field(float& value) {
         std::array<unsigned char, 4> bytes{};
         Bytes(bytes.data(), bytes.size());
         std::uint32_t bits = 0;
@@ -77,8 +76,8 @@ public:
         }
         value = std::bit_cast<float>(bits);
     }
-    void Number(bool& value) { value = Word() != 0; }
-    template <std::size_t N> void Fixed(FixedText<N>& text) {
+    void Field(bool& value) { value = Word() != 0; }
+    template <std::size_t N> void Field(FixedText<N>& text) {
         std::array<char, N> bytes{};
         Bytes(bytes.data(), bytes.size());
         for (char& c : bytes) { // a fixed text may be filled up with zeros
@@ -87,7 +86,7 @@ public:
         text = std::string_view{From_windows_1252({bytes.data(), bytes.size()})};
     }
     // In blocks, so that a damaged length never asks for more memory than the file has bytes for.
-    void Counted(std::string& text) {
+    void Field(std::string& text) {
         std::size_t left = Word();
         constexpr std::size_t block = 4096;
         std::string bytes;
@@ -100,7 +99,7 @@ public:
         }
         text = From_windows_1252(bytes);
     }
-    void Skip(std::size_t count) {
+    void Reserved(std::size_t count) {
         std::array<char, 1024> block{};
         while (count > 0) {
             const std::size_t part = std::min(count, block.size());
@@ -108,7 +107,7 @@ public:
             count -= part;
         }
     }
-    void Skip_counted() { Skip(Word()); }
+    void Reserved_text() { Reserved(Word()); }
 
 private:
     std::uint16_t Word() {
@@ -127,129 +126,68 @@ private:
     std::istream& file_;
 };
 
-// The fields of the three records in the order of the file, for the writer and for the reader alike.
-template <class Archive, class Mat> void Material_fields(Archive& archive, Mat& row) {
-    archive.Counted(row.Id);
-    archive.Counted(row.Type);
-    archive.Counted(row.Standard);
-    archive.Number(row.fmk);
-    archive.Number(row.fc0k);
-    archive.Number(row.fc90k);
-    archive.Number(row.fvk);
-    archive.Number(row.E0_mean);
-    archive.Number(row.E0_05);
-    archive.Number(row.G);
-    archive.Number(row.dens);
-    archive.Number(row.s_fac);
+// The fields of the records in the order of the file, for the writer and for the reader alike.
+template <class Setup> auto Setup_fields(Setup& setup) {
+    auto& line = setup.Setup_line;
+    return std::tie(setup.Language, line[0], line[1], line[2], line[3], line[4], line[5], setup.gam_timb, setup.gam_lam,
+                    setup.gam_kerto, setup.gam_k_bjelke);
 }
 
-template <class Archive, class Prof> void Profile_fields(Archive& archive, Prof& row) {
-    archive.Counted(row.Id);
-    archive.Counted(row.Type);
-    archive.Counted(row.Standard);
-    archive.Number(row.b);
-    archive.Number(row.h);
+template <class Mat> auto Material_fields(Mat& row) {
+    return std::tie(row.Id, row.Type, row.Standard, row.fmk, row.fc0k, row.fc90k, row.fvk, row.E0_mean, row.E0_05,
+                    row.G, row.dens, row.s_fac);
 }
 
-template <class Archive, class Setup> void Setup_fields(Archive& archive, Setup& setup) {
-    archive.Fixed(setup.Language);
-    for (auto& line : setup.Setup_line) {
-        archive.Counted(line);
+template <class Prof> auto Profile_fields(Prof& row) {
+    return std::tie(row.Id, row.Type, row.Standard, row.b, row.h);
+}
+
+// Those of the project record, or of the state that it is filled from and applied to.
+template <class Record> auto Record_fields(Record& r) {
+    return std::tie(r.Prosjekt, r.Id, r.Lastvar, r.Lastvar_txt, r.Klima, r.Kun_bolt, r.Med_bulldog, r.Bolt_index,
+                    r.Bulldog_index, r.Ant_index, r.Standard, r.b1, r.h1, r.b2, r.h2, r.P, r.alp, r.Con_type, r.dob_1,
+                    r.dob_2, r.enk_1, r.enk_2, r.Bolt_ab, r.Avstand_index, r.Man_he_on, r.man_he);
+}
+
+template <class Archive, class Fields> void Visit(Archive& file, Fields fields) {
+    std::apply([&file](auto&... field) { (file.Field(field), ...); }, fields);
+}
+
+// The nine parts of the file in their order.
+template <class Archive, class State, class Record> void Visit_parts(Archive& file, State& s, Record& record) {
+    constexpr std::size_t reserved_word = 2;
+    constexpr std::size_t reserved_bytes = 624;
+    constexpr int reserved_texts = 101;
+    constexpr std::size_t reserved_fixed_texts = 200;
+    Visit(file, Setup_fields(s.Setup));
+    for (auto& row : s.Mat) {
+        Visit(file, Material_fields(row));
     }
-    archive.Number(setup.gam_timb);
-    archive.Number(setup.gam_lam);
-    archive.Number(setup.gam_kerto);
-    archive.Number(setup.gam_k_bjelke);
-}
-
-template <class Archive, class Record> void Record_fields(Archive& archive, Record& r) {
-    archive.Counted(r.Prosjekt);
-    archive.Counted(r.Id);
-    archive.Number(r.Lastvar);
-    archive.Fixed(r.Lastvar_txt);
-    archive.Number(r.Klima);
-    archive.Number(r.Kun_bolt);
-    archive.Number(r.Med_bulldog);
-    archive.Number(r.Bolt_index);
-    archive.Number(r.Bulldog_index);
-    archive.Number(r.Ant_index);
-    archive.Number(r.Standard);
-    archive.Number(r.b1);
-    archive.Number(r.h1);
-    archive.Number(r.b2);
-    archive.Number(r.h2);
-    archive.Number(r.P);
-    archive.Number(r.alp);
-    archive.Number(r.Con_type);
-    archive.Number(r.dob_1);
-    archive.Number(r.dob_2);
-    archive.Number(r.enk_1);
-    archive.Number(r.enk_2);
-    archive.Fixed(r.Bolt_ab);
-    archive.Number(r.Avstand_index);
-    archive.Number(r.Man_he_on);
-    archive.Number(r.man_he);
+    Visit(file, std::tie(s.Mat_index, s.Mat_count));
+    for (auto& row : s.Prof) {
+        Visit(file, Profile_fields(row));
+    }
+    file.Reserved(reserved_word);
+    Visit(file, std::tie(s.Prof1_index, s.Prof1_count));
+    file.Reserved(reserved_word);
+    Visit(file, std::tie(s.Prof2_index, s.Prof2_count));
+    Visit(file, Record_fields(record));
+    file.Reserved(reserved_bytes);
+    for (int i = 0; i < reserved_texts; ++i) {
+        file.Reserved_text();
+    }
+    file.Reserved(reserved_fixed_texts);
 }
 
 } // namespace
 
-void Fill_project(const ConnectionState& s, Project_record& r) {
-    r.Prosjekt = s.Prosjekt;
-    r.Id = s.Id;
-    r.Lastvar = s.Lastvar;
-    r.Lastvar_txt = s.Lastvar_txt.View();
-    r.Klima = s.Klima;
-    r.Kun_bolt = s.Kun_bolt;
-    r.Med_bulldog = s.Med_bulldog;
-    r.Bolt_index = s.Bolt_index;
-    r.Bulldog_index = s.Bulldog_index;
-    r.Ant_index = s.Ant_index;
-    r.Standard = s.Standard;
-    r.b1 = s.b1;
-    r.h1 = s.h1;
-    r.b2 = s.b2;
-    r.h2 = s.h2;
-    r.P = s.P;
-    r.alp = s.alp;
-    r.Con_type = s.Con_type;
-    r.dob_1 = s.dob_1;
-    r.dob_2 = s.dob_2;
-    r.enk_1 = s.enk_1;
-    r.enk_2 = s.enk_2;
-    r.Bolt_ab = s.Bolt_ab;
-    r.Avstand_index = s.Avstand_index;
-    r.Man_he_on = s.Man_he_on;
-    r.man_he = s.man_he;
+void Fill_project(const ConnectionState& s, Project_record& record) {
+    Record_fields(record) = Record_fields(s);
 }
 
-void Apply_project(ConnectionState& s, const Project_record& r) {
+void Apply_project(ConnectionState& s, const Project_record& record) {
     s.Loading = true;
-    s.Prosjekt = r.Prosjekt;
-    s.Id = r.Id;
-    s.Lastvar = r.Lastvar;
-    s.Lastvar_txt = r.Lastvar_txt.View();
-    s.Klima = r.Klima;
-    s.Kun_bolt = r.Kun_bolt;
-    s.Med_bulldog = r.Med_bulldog;
-    s.Bolt_index = r.Bolt_index;
-    s.Bulldog_index = r.Bulldog_index;
-    s.Ant_index = r.Ant_index;
-    s.Standard = r.Standard;
-    s.b1 = r.b1;
-    s.h1 = r.h1;
-    s.b2 = r.b2;
-    s.h2 = r.h2;
-    s.P = r.P;
-    s.alp = r.alp;
-    s.Con_type = r.Con_type;
-    s.dob_1 = r.dob_1;
-    s.dob_2 = r.dob_2;
-    s.enk_1 = r.enk_1;
-    s.enk_2 = r.enk_2;
-    s.Bolt_ab = r.Bolt_ab;
-    s.Avstand_index = r.Avstand_index;
-    s.Man_he_on = r.Man_he_on;
-    s.man_he = r.man_he;
+    Record_fields(s) = Record_fields(record);
     Get_dc(s);
     Check_counts(s);
     s.Kun_bolt = !s.Med_bulldog;
@@ -262,56 +200,14 @@ void Apply_project(ConnectionState& s, const Project_record& r) {
 }
 
 std::string Project_bytes(const ConnectionState& s, const Project_record& record) {
-    constexpr std::int16_t reserved_word = 0;
     Writer file;
-    Setup_fields(file, s.Setup);
-    for (const MatRecord& row : s.Mat) {
-        Material_fields(file, row);
-    }
-    file.Number(s.Mat_index);
-    file.Number(s.Mat_count);
-    for (const ProfRecord& row : s.Prof) {
-        Profile_fields(file, row);
-    }
-    file.Number(reserved_word);
-    file.Number(s.Prof1_index);
-    file.Number(s.Prof1_count);
-    file.Number(reserved_word);
-    file.Number(s.Prof2_index);
-    file.Number(s.Prof2_count);
-    Record_fields(file, record);
-    file.Zeros(reserved_bytes);
-    for (int i = 0; i < reserved_texts; ++i) {
-        file.Counted({});
-    }
-    file.Zeros(2 * reserved_fixed_text);
+    Visit_parts(file, s, record);
     return file.Take();
 }
 
 void Read_project(ConnectionState& s, Project_record& record, std::istream& stream) {
-    std::int16_t reserved_word = 0;
     Reader file{stream};
-    Setup_fields(file, s.Setup);
-    for (MatRecord& row : s.Mat) {
-        Material_fields(file, row);
-    }
-    file.Number(s.Mat_index);
-    file.Number(s.Mat_count);
-    for (ProfRecord& row : s.Prof) {
-        Profile_fields(file, row);
-    }
-    file.Number(reserved_word);
-    file.Number(s.Prof1_index);
-    file.Number(s.Prof1_count);
-    file.Number(reserved_word);
-    file.Number(s.Prof2_index);
-    file.Number(s.Prof2_count);
-    Record_fields(file, record);
-    file.Skip(reserved_bytes);
-    for (int i = 0; i < reserved_texts; ++i) {
-        file.Skip_counted();
-    }
-    file.Skip(2 * reserved_fixed_text);
+    Visit_parts(file, s, record);
 }
 
 void Save_project(const ConnectionState& s, const Project_record& record, const fs::path& path) {

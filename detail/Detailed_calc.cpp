@@ -3,6 +3,7 @@
 #include <cmath>
 #include <span>
 
+#include "calc/Words.h"
 #include "report/Member_texts.h"
 
 namespace tarnvik {
@@ -26,14 +27,6 @@ constexpr Need operator|(Need one, Need other) {
     return static_cast<Need>(static_cast<unsigned>(one) | static_cast<unsigned>(other));
 }
 
-struct Words {
-    constexpr Words() = default;
-    constexpr Words(const char* same) : eng(same), nor(same) {} // NOLINT(google-explicit-constructor): like any text
-    constexpr Words(const char* english, const char* norwegian) : eng(english), nor(norwegian) {}
-
-    std::string_view eng, nor;
-};
-
 struct Number {
     float (*of)(const V& s){};
     std::string_view picture;
@@ -41,7 +34,7 @@ struct Number {
 template <auto member> float Of(const V& s) {
     return static_cast<float>(s.*member);
 }
-template <auto member> float Size_of(const V& s) {
+template <auto member> float Absolute_of(const V& s) {
     return std::fabs(s.*member);
 }
 template <auto member> float Thousandth_of(const V& s) {
@@ -242,7 +235,7 @@ constexpr std::array design{
     Piece{always,               0.0, joined, "  kN"},
 
     Piece{bolts_only,           1.0,  2.0,   "Kontroll  = P / Rd_bolt                                               ="},
-    Piece{bolts_only,           0.0, 45.0,   none,  {Size_of<&V::P>, "0.00"}, Style::warned},
+    Piece{bolts_only,           0.0, 45.0,   none,  {Absolute_of<&V::P>, "0.00"}, Style::warned},
     Piece{bolts_only,           0.0, joined, " / ", {Of<&V::Rd_bolt>, "0.00"}},
     Piece{bolts_only,           0.0, 77.0,   "=",   {}, Style::warned},
     Piece{bolts_only,           0.0, 79.0,   none,  {Of<&V::uf>, "0.00"}, Style::warned},
@@ -260,7 +253,7 @@ constexpr std::array design{
     Piece{connectors,           0.0, joined, "  kN"},
     Piece{connectors,           1.0,  2.0,   {"Control = P / ( Rd_bolt + Rd_con. )", "Kontroll = P / ( Rd_bolt + Rd_for. )"}},
     Piece{connectors,           0.0, 42.0,   "="},
-    Piece{connectors,           0.0, 45.0,   none,     {Size_of<&V::P>, "0.00"}},
+    Piece{connectors,           0.0, 45.0,   none,     {Absolute_of<&V::P>, "0.00"}},
     Piece{connectors,           0.0, joined, " /  ( ", {Of<&V::Rd_bolt>, "0.00"}},
     Piece{connectors,           0.0, joined, " + ",    {Of<&V::Rd_for>, "0.00"}},
     Piece{connectors,           0.0, joined, " ) "},
@@ -306,7 +299,7 @@ public:
             if (!Holds(piece.need)) {
                 continue;
             }
-            std::string text{In_language(piece.words)};
+            std::string text{piece.words.In(english_)};
             if (piece.text != nullptr) {
                 text += piece.text(s_, english_);
             }
@@ -335,9 +328,9 @@ public:
     }
 
     void Print(const BesideRow& beside_row) {
-        Print(beside_x, In_language(beside_row.words), Style::plain, 0.0, beside_row.up);
+        Print(beside_x, beside_row.words.In(english_), Style::plain, 0.0, beside_row.up);
         Print(beside_value_x, Number_text(beside_row.number), Style::right, 0.0, beside_row.up);
-        Print(beside_unit_x, In_language(beside_row.unit), Style::plain, 0.0, beside_row.up);
+        Print(beside_unit_x, beside_row.unit.In(english_), Style::plain, 0.0, beside_row.up);
     }
 
     void Print(const Mode& mode) {
@@ -385,7 +378,6 @@ public:
     }
 
 private:
-    [[nodiscard]] std::string_view In_language(const Words& words) const { return english_ ? words.eng : words.nor; }
     [[nodiscard]] std::string Number_text(const Number& number) const {
         return std::string{Format(number.of(s_), number.picture).View()};
     }

@@ -24,13 +24,17 @@ public:
     virtual void Show_then(std::string_view text, int style, std::function<void()> then) = 0;
 };
 
-// What a file dialog is asked for. Flags are those of the common dialog: 2 prompt on overwrite, 4 hide the read-only
-// box, 4096 the file must exist.
+// Flags of a file dialog, those of the common dialog.
+inline constexpr int prompt_on_overwrite = 2;
+inline constexpr int hide_read_only = 4; // no box for opening read-only
+inline constexpr int file_must_exist = 4096;
+
+// What a file dialog is asked for.
 struct FileRequest {
     std::string filter;    // "*.tnvik"
     std::string file_name; // what the dialog starts with
     std::string default_extension;
-    int flags{};
+    int flags{}; // joined by |
 };
 
 class FileDialogs {
@@ -45,10 +49,13 @@ public:
     virtual std::optional<std::string> Save(const FileRequest& request) = 0;
 };
 
-// What the printer dialog is asked for. Flags are those of the common dialog: 4 no selection, 1048576 (hexadecimal
-// 100000) no box for printing to a file.
+// Flags of the printer dialog, those of the common dialog.
+inline constexpr int no_selection = 4;               // the report is printed whole
+inline constexpr int hide_print_to_file = 0x10'0000; // no box for printing to a file
+
+// What the printer dialog is asked for.
 struct PrinterRequest {
-    int flags{};
+    int flags{};          // joined by |
     std::string document; // the job's name
 };
 

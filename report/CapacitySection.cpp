@@ -3,20 +3,13 @@
 #include <initializer_list>
 #include <string>
 
+#include "calc/Words.h"
 #include "report/Member_texts.h"
 #include "report/Sections.h"
 
 namespace tarnvik {
 
 namespace {
-
-struct Words {
-    std::string_view eng, nor;
-};
-
-constexpr std::string_view In(bool eng, const Words& words) {
-    return eng ? words.eng : words.nor;
-}
 
 std::string Join(std::initializer_list<std::string_view> parts) {
     std::string text;
@@ -54,46 +47,35 @@ constexpr std::array<AngleText, 15> angle_texts{{
     {"5.2", angle_beam,   56},
     {"5.3", angle_beam,   56},
 }};
+// clang-format on
 
-struct ModeRow {
-    double y; // down from the anchor
+// A failure mode of (8.6) or (8.7): label and value on a row of text, and between them the picture of its equation,
+// which stands at a fixed place of the page.
+struct Mode {
+    bool double_shear;
+    double down; // the row, from the anchor
     std::string_view label;
     float ConnectionValues::*Fv;
+    std::string_view equation;
+    double y, width, height; // its top and size on the page; all stand at x = 30
 };
 
-constexpr std::array<ModeRow, 6> single_modes{{
-    { 68, "Rk(a) = ", &ConnectionValues::Fv_a},
-    { 75, "Rk(b) = ", &ConnectionValues::Fv_b},
-    { 83, "Rk(c) = ", &ConnectionValues::Fv_c},
-    { 99, "Rk(d) = ", &ConnectionValues::Fv_d},
-    {115, "Rk(e) = ", &ConnectionValues::Fv_e},
-    {130, "Rk(f) = ", &ConnectionValues::Fv_f},
-}};
-constexpr std::array<ModeRow, 4> double_modes{{
-    { 68, "Rk(g) = ", &ConnectionValues::Fv_g},
-    { 75, "Rk(h) = ", &ConnectionValues::Fv_h},
-    { 88, "Rk(j) = ", &ConnectionValues::Fv_j},
-    {105, "Rk(k) = ", &ConnectionValues::Fv_k},
-}};
+constexpr bool single = false;
+constexpr bool twice = true;
 
-struct EquationPicture {
-    std::string_view picture;
-    double y, width, height; // top and size on the page; all stand at x = 30
-};
-
-constexpr std::array<EquationPicture, 6> single_equations{{
-    {"Frm_tarn_vik_likninger/Pic_r_a", 112,  18,  7},
-    {"Frm_tarn_vik_likninger/Pic_r_b", 105,  18,  7},
-    {"Frm_tarn_vik_likninger/Pic_r_c",  98, 111, 15},
-    {"Frm_tarn_vik_likninger/Pic_r_d",  84, 111, 15},
-    {"Frm_tarn_vik_likninger/Pic_r_e",  68, 109, 15},
-    {"Frm_tarn_vik_likninger/Pic_r_f",  54,  60, 15},
-}};
-constexpr std::array<EquationPicture, 4> double_equations{{
-    {"Frm_tarn_vik_likninger/Pic_r_g", 112,  18,  7},
-    {"Frm_tarn_vik_likninger/Pic_r_h", 103,  18,  7},
-    {"Frm_tarn_vik_likninger/Pic_r_j",  94, 111, 15},
-    {"Frm_tarn_vik_likninger/Pic_r_k",  78,  60, 15},
+// clang-format off
+constexpr std::array<Mode, 10> modes{{
+    // shear  down  label                 value             equation                           y  width  height
+    {single,  68, "Rk(a) = ", &ConnectionValues::Fv_a, "Frm_tarn_vik_likninger/Pic_r_a", 112,  18,  7},
+    {single,  75, "Rk(b) = ", &ConnectionValues::Fv_b, "Frm_tarn_vik_likninger/Pic_r_b", 105,  18,  7},
+    {single,  83, "Rk(c) = ", &ConnectionValues::Fv_c, "Frm_tarn_vik_likninger/Pic_r_c",  98, 111, 15},
+    {single,  99, "Rk(d) = ", &ConnectionValues::Fv_d, "Frm_tarn_vik_likninger/Pic_r_d",  84, 111, 15},
+    {single, 115, "Rk(e) = ", &ConnectionValues::Fv_e, "Frm_tarn_vik_likninger/Pic_r_e",  68, 109, 15},
+    {single, 130, "Rk(f) = ", &ConnectionValues::Fv_f, "Frm_tarn_vik_likninger/Pic_r_f",  54,  60, 15},
+    {twice,   68, "Rk(g) = ", &ConnectionValues::Fv_g, "Frm_tarn_vik_likninger/Pic_r_g", 112,  18,  7},
+    {twice,   75, "Rk(h) = ", &ConnectionValues::Fv_h, "Frm_tarn_vik_likninger/Pic_r_h", 103,  18,  7},
+    {twice,   88, "Rk(j) = ", &ConnectionValues::Fv_j, "Frm_tarn_vik_likninger/Pic_r_j",  94, 111, 15},
+    {twice,  105, "Rk(k) = ", &ConnectionValues::Fv_k, "Frm_tarn_vik_likninger/Pic_r_k",  78,  60, 15},
 }};
 // clang-format on
 
@@ -122,6 +104,34 @@ std::string Kilonewtons(float value) {
     return Join({Format(value, "0.00"), "  kN"});
 }
 
+void PrintStrengths(PrintTarget& target, const ConnectionValues& s, double Y, double x) {
+    const bool eng = Is_english(s);
+    const auto d = Format(s.d, "00");
+    if (Single_shear(s)) {
+        Print_bold_at(target, x, Y, eng ? "Single shear=" : "Enkelsnittet forbindelse :");
+    }
+    if (Double_shear(s)) {
+        Print_bold_at(target, x, Y, eng ? "Double shear=" : "Dobbelsnittet forbindelse :");
+    }
+    Print_at(target, x, Y - 5,
+             eng ? "Calculations of k90 and characteristic embedment strength fhk :"
+                 : "Beregning av k90 og karakteristisk flatetrykk fhk :  ");
+
+    Print_at(target, x, Y - 10, "k90 = 1.35 + 0.015 x d   = ");
+    Print_at(target, x + 35, Y - 10, Join({"1.35", " + ", "0.015", " x ", d, "  ="}));
+    Print_at(target, x + 63, Y - 10, Format(s.k90, "0.00"));
+
+    Print_at(target, x, Y - 15, "fh0k = 0.082 x (1 - 0.01 x d) x pk  = ");
+    Print_at(target, x + 48, Y - 15,
+             Join({" 0.082", " x  ( ", "1 - ", "0.01  x ", d, ")", " x ", Format(s.rho_k, "00"), " = "}));
+    Print_at(target, x + 95, Y - 15, Format(s.fh0k, "0.00"));
+
+    if (const AngleText* angle = Angle_of(s)) {
+        Print_at(target, x, Y - 20, angle->words.In(eng));
+        Print_at(target, x + angle->value_x, Y - 20, Format(s.alp, "0.0"));
+    }
+}
+
 // fh,alpha = fh0k / (k90 sin2 alpha + cos2 alpha), EN 1995-1-1:2004+A1:2008, (8.31), set by hand from pieces.
 void PrintFhk(PrintTarget& target, double y, double x, float value, int member) {
     Print_at(target, x - 3, y, member == 1 ? "fh1k =" : "fh2k =");
@@ -139,7 +149,7 @@ void PrintFhk(PrintTarget& target, double y, double x, float value, int member) 
 void PrintEmbedment(PrintTarget& target, const ConnectionValues& s, double y1, double y2, double x) {
     const bool eng = Is_english(s);
     const MemberTexts* texts = Member_labels(s);
-    const auto row = [&](double y, const MemberText& label, float alp, float value, int member) {
+    const auto row = [&](double y, const Words& label, float alp, float value, int member) {
         if (texts != nullptr) {
             Print_at(target, x, y, label.In(eng));
         }
@@ -147,8 +157,8 @@ void PrintEmbedment(PrintTarget& target, const ConnectionValues& s, double y1, d
         Print_at(target, x + 27, y, Format(alp, "0.0"));
         PrintFhk(target, y, x + 37, value, member);
     };
-    row(y1, texts != nullptr ? texts->label1 : MemberText{}, s.alp1, s.fh1k, 1);
-    row(y2, texts != nullptr ? texts->label2 : MemberText{}, s.alp2, s.fh2k, 2);
+    row(y1, texts != nullptr ? texts->label1 : Words{}, s.alp1, s.fh1k, 1);
+    row(y2, texts != nullptr ? texts->label2 : Words{}, s.alp2, s.fh2k, 2);
 }
 
 void PrintBeta(PrintTarget& target, const ConnectionValues& s, double y, double x) {
@@ -162,11 +172,17 @@ void PrintBeta(PrintTarget& target, const ConnectionValues& s, double y, double 
     Print_at(target, x, y - 10, Join({s.t2_txt, Format(s.t2, "0.00"), texts->note2.In(eng)}));
 }
 
-// The equation stands as a picture between label and equals sign.
-void PrintRk(PrintTarget& target, const ConnectionValues& s, const ModeRow& mode, double y, double x) {
-    Print_at(target, x, y, mode.label);
-    Print_at(target, x + 150, y, "=");
-    Print_bold_at(target, x + 153, y, Kilonewtons(static_cast<float>(static_cast<double>(s.*mode.Fv) / 1000.0)));
+// The modes of single or of double shear. The equation stands as a picture between label and equals sign.
+void PrintModes(PrintTarget& target, const ConnectionValues& s, bool double_shear, double Y, double x) {
+    for (const Mode& mode : modes) {
+        if (mode.double_shear != double_shear) {
+            continue;
+        }
+        const double y = Y - mode.down;
+        Print_at(target, x, y, mode.label);
+        Print_at(target, x + 150, y, "=");
+        Print_bold_at(target, x + 153, y, Kilonewtons(static_cast<float>(static_cast<double>(s.*mode.Fv) / 1000.0)));
+    }
 }
 
 void PrintEffectiveNumbers(PrintTarget& target, const ConnectionValues& s, double y, double x) {
@@ -200,10 +216,10 @@ void PrintRule(PrintTarget& target, const ConnectionValues& s, double y, double 
                const Words& double_rule, float value) {
     const bool eng = Is_english(s);
     if (Single_shear(s)) {
-        Print_at(target, x + 80, y, In(eng, single_rule));
+        Print_at(target, x + 80, y, single_rule.In(eng));
     }
     if (Double_shear(s)) {
-        Print_at(target, x + 80, y, In(eng, double_rule));
+        Print_at(target, x + 80, y, double_rule.In(eng));
     }
     Print_at(target, x + 150, y, "=");
     Print_bold_at(target, x + 153, y, Kilonewtons(value));
@@ -255,14 +271,9 @@ constexpr double anchor_y = 177;
 } // namespace
 
 std::optional<double> Equation_row(std::string_view picture) {
-    for (std::size_t i = 0; i < single_equations.size(); ++i) {
-        if (picture == single_equations[i].picture) {
-            return anchor_y - single_modes[i].y;
-        }
-    }
-    for (std::size_t i = 0; i < double_equations.size(); ++i) {
-        if (picture == double_equations[i].picture) {
-            return anchor_y - double_modes[i].y;
+    for (const Mode& mode : modes) {
+        if (picture == mode.equation) {
+            return anchor_y - mode.down;
         }
     }
     return std::nullopt;
@@ -270,54 +281,23 @@ std::optional<double> Equation_row(std::string_view picture) {
 
 void PrintCapacity(PrintTarget& target, const ConnectionValues& s, double X, double Y) {
     const bool eng = Is_english(s);
-    const bool single_shear = Single_shear(s);
-    const bool double_shear = Double_shear(s);
-    const auto d = Format(s.d, "00");
-
-    if (single_shear) {
-        Print_bold_at(target, X, Y, eng ? "Single shear=" : "Enkelsnittet forbindelse :");
-    }
-    if (double_shear) {
-        Print_bold_at(target, X, Y, eng ? "Double shear=" : "Dobbelsnittet forbindelse :");
-    }
-    Print_at(target, X, Y - 5,
-             eng ? "Calculations of k90 and characteristic embedment strength fhk :"
-                 : "Beregning av k90 og karakteristisk flatetrykk fhk :  ");
-
-    Print_at(target, X, Y - 10, "k90 = 1.35 + 0.015 x d   = ");
-    Print_at(target, X + 35, Y - 10, Join({"1.35", " + ", "0.015", " x ", d, "  ="}));
-    Print_at(target, X + 63, Y - 10, Format(s.k90, "0.00"));
-
-    Print_at(target, X, Y - 15, "fh0k = 0.082 x (1 - 0.01 x d) x pk  = ");
-    Print_at(target, X + 48, Y - 15,
-             Join({" 0.082", " x  ( ", "1 - ", "0.01  x ", d, ")", " x ", Format(s.rho_k, "00"), " = "}));
-    Print_at(target, X + 95, Y - 15, Format(s.fh0k, "0.00"));
-
-    if (const AngleText* angle = Angle_of(s)) {
-        Print_at(target, X, Y - 20, In(eng, angle->words));
-        Print_at(target, X + angle->value_x, Y - 20, Format(s.alp, "0.0"));
-    }
+    PrintStrengths(target, s, Y, X);
     PrintEmbedment(target, s, Y - 27, Y - 37, X);
     PrintBeta(target, s, Y - 46, X);
-
-    if (single_shear) {
+    if (Single_shear(s)) {
         Print_at(target, X, Y - 62,
                  eng ? "Characteristic capacity of a single shear plane pr. bolt :"
                      : "Karakteristisk kapasitet av et enkelt snitt pr. bolt :");
-        for (const ModeRow& mode : single_modes) {
-            PrintRk(target, s, mode, Y - mode.y, X);
-        }
+        PrintModes(target, s, single, Y, X);
     }
-    if (double_shear) {
+    if (Double_shear(s)) {
         Print_at(target, X, Y - 61,
                  eng ? "Characteristic capacity of a single shear plane :"
                      : "Karakteristisk kapasitet av et enkelt snitt :");
-        for (const ModeRow& mode : double_modes) {
-            PrintRk(target, s, mode, Y - mode.y, X);
-        }
+        PrintModes(target, s, twice, Y, X);
     }
 
-    const double y = Y - (single_shear ? 141 : 120);
+    const double y = Y - (Single_shear(s) ? 141 : 120);
     PrintEffectiveNumbers(target, s, y, X);
     PrintSplitting(target, s, y - 6, X);
     PrintRdBolt(target, s, y - 12, X);
@@ -327,17 +307,9 @@ void PrintCapacity(PrintTarget& target, const ConnectionValues& s, double X, dou
 }
 
 void PrintEquations(PrintTarget& target, const ConnectionValues& s) {
-    const auto paint = [&target](const EquationPicture& equation) {
-        PrintPicture(target, equation.picture, 30, equation.y, equation.width, equation.height);
-    };
-    if (Single_shear(s)) {
-        for (const EquationPicture& equation : single_equations) {
-            paint(equation);
-        }
-    }
-    if (Double_shear(s)) {
-        for (const EquationPicture& equation : double_equations) {
-            paint(equation);
+    for (const Mode& mode : modes) {
+        if (mode.double_shear ? Double_shear(s) : Single_shear(s)) {
+            PrintPicture(target, mode.equation, 30, mode.y, mode.width, mode.height);
         }
     }
 }

@@ -2,6 +2,7 @@
 #include <cmath>
 
 #include "calc/RuntimeFault.h"
+#include "calc/Words.h"
 #include "report/Sections.h"
 
 namespace tarnvik {
@@ -9,14 +10,6 @@ namespace tarnvik {
 namespace {
 
 constexpr std::string_view report_font = "Times New Roman";
-
-struct Words {
-    std::string_view eng, nor;
-};
-
-constexpr std::string_view In(bool eng, const Words& words) {
-    return eng ? words.eng : words.nor;
-}
 
 // Blanks and misspellings belong to the texts. The English titles of sections 5 and 6 differ in their number alone, the
 // Norwegian ones go on with a diameter.
@@ -49,8 +42,6 @@ constexpr Words top_chord      {"Top chord",                 "Overgurt "};
 constexpr Words bottom_chord   {"Bottom chord",              "Undergurt "};
 // clang-format on
 
-constexpr std::array<std::string_view, 5> connector_sizes{"D50", "D62", "D75", "D95", "D117"};
-
 std::string Number(float value, std::string_view picture, std::string_view behind = {}) {
     std::string text{Format(value, picture).View()};
     text += behind;
@@ -68,7 +59,7 @@ void Set_font(PrintTarget& target, std::int16_t font_size) {
 void PrintSectionTitle(PrintTarget& target, const ConnectionValues& s, int section, double X, double Y,
                        std::int16_t font_size) {
     const bool eng = Is_english(s);
-    std::string title{In(eng, titles.at(static_cast<std::size_t>(section - 1)))};
+    std::string title{titles.at(static_cast<std::size_t>(section - 1)).In(eng)};
     if (!eng && section >= 5) {
         title += Number(section == 5 ? s.d : s.dc, "00", "   mm");
     }
@@ -93,10 +84,10 @@ void PrintGeneral(PrintTarget& target, ConnectionState& s, double X, double Y, s
     const auto value = [&](double right, double y, std::string_view text) { Print_right(target, X + right, y, text); };
 
     double y = Y;
-    label(0, y, In(eng, bolt_type));
-    const auto bolt = static_cast<std::size_t>(s.Bolt_index);
-    value(52, y, bolt < bolt_table.size() ? bolt_table[bolt].caption : std::string_view{});
-    label(58, y, In(eng, number_of_bolts));
+    label(0, y, bolt_type.In(eng));
+    const BoltRow* bolt = Row_of(bolt_table, s.Bolt_index);
+    value(52, y, bolt != nullptr ? bolt->caption : std::string_view{});
+    label(58, y, number_of_bolts.In(eng));
     value(85, y, Number(s.n_bolt, "0"));
     label(98, y, "fuk=");
     value(116, y, Number(s.fuk, "0", " MPa"));
@@ -104,32 +95,32 @@ void PrintGeneral(PrintTarget& target, ConnectionState& s, double X, double Y, s
 
     if (s.Med_bulldog) {
         y -= row_step;
-        label(0, y, In(eng, connector));
-        value(52, y, In(eng, double_sided));
-        label(58, y, In(eng, dimension));
-        const auto size = static_cast<std::size_t>(s.Bulldog_index);
-        value(85, y, size < connector_sizes.size() ? connector_sizes[size] : std::string_view{});
-        label(98, y, In(eng, capacity));
+        label(0, y, connector.In(eng));
+        value(52, y, double_sided.In(eng));
+        label(58, y, dimension.In(eng));
+        const ConnectorRow* size = Row_of(connector_table, s.Bulldog_index);
+        value(85, y, size != nullptr ? size->size : std::string_view{});
+        label(98, y, capacity.In(eng));
         value(143, y, Number(s.Fv_Rk, "0.00", "  kN"));
     }
 
     y -= row_step;
-    label(0, y, In(eng, timber_quality));
+    label(0, y, timber_quality.In(eng));
     const auto material = static_cast<std::size_t>(s.Mat_index);
     if (material >= s.Mat.size()) {
         Raise(fault_subscript, "PrintGeneral");
     }
     value(52, y, s.Mat[material].Id);
-    label(58, y, In(eng, density));
+    label(58, y, density.In(eng));
     value(85, y, Number(s.rho_k, "0", " Kg/m3"));
     label(98, y, "fc90k =");
     value(116, y, Number(s.fc90k, "0.00"));
 
     y -= row_step;
     s.Lastvar_txt = First_characters(s.Lastvar_txt, 9); // a write: the state keeps the short name until the next pass
-    label(0, y, In(eng, duration_class));
+    label(0, y, duration_class.In(eng));
     value(52, y, First_characters(s.Lastvar_txt, 9));
-    label(58, y, In(eng, service_class));
+    label(58, y, service_class.In(eng));
     value(85, y, Number(s.Klima, "0"));
     label(98, y, "kmod =");
     value(116, y, Number(s.kmod, "0.00"));
@@ -149,12 +140,12 @@ void PrintDimensions(PrintTarget& target, const ConnectionValues& s, double X, d
     Draw_line(target, X + 40, Y - 10, X + 94, Y - 10);
     Draw_line(target, X, Y - 38, X + 94, Y - 38);
 
-    Print_at(target, X + 10, Y - 1, In(eng, connection));
-    Print_at(target, X + 50, Y - 1, In(eng, dimensions));
+    Print_at(target, X + 10, Y - 1, connection.In(eng));
+    Print_at(target, X + 50, Y - 1, dimensions.In(eng));
     const bool beam_and_column = s.Con_type == 2 || s.Con_type == 4 || s.Con_type == 5;
     if (beam_and_column || s.Con_type == 1 || s.Con_type == 3) {
-        Print_at(target, X + 45, Y - 6, In(eng, beam_and_column ? beam : top_chord));
-        Print_at(target, X + 72, Y - 6, In(eng, beam_and_column ? column : bottom_chord));
+        Print_at(target, X + 45, Y - 6, (beam_and_column ? beam : top_chord).In(eng));
+        Print_at(target, X + 72, Y - 6, (beam_and_column ? column : bottom_chord).In(eng));
     }
     const auto side = [&](double x, double y, std::string_view name, float value) {
         Print_at(target, X + x, y, name);

@@ -5,20 +5,15 @@
 #include <string_view>
 
 #include "calc/GlobalParameter.h"
+#include "calc/Words.h"
 
 namespace tarnvik {
 
-// The same words in both languages. The differing numbers of blanks are deliberate.
-struct MemberText {
-    std::string_view eng, nor;
-
-    [[nodiscard]] std::string_view In(bool english) const { return english ? eng : nor; }
-};
-
+// The differing numbers of blanks are deliberate.
 struct MemberTexts {
     std::string_view Con_code;
-    MemberText label1, label2; // of t1 and of t2
-    MemberText note1, note2;
+    Words label1, label2; // of t1 and of t2
+    Words note1, note2;
 };
 
 // The labels of a connection; null for a code outside the catalogue.

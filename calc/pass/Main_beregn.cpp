@@ -1,10 +1,7 @@
 #include "calc/pass/Main_beregn.h"
 
-#include <array>
-#include <charconv>
 #include <cmath>
 
-#include "calc/Arithmetic.h"
 #include "calc/Connector.h"
 #include "calc/DesignCapacity.h"
 #include "calc/Shear.h"
@@ -23,18 +20,18 @@ constexpr std::string_view where = "Main_beregn";
 void Lang_klasser(ConnectionValues& s, const ScreenWriter& show, bool english) {
     show.Caption(Control::Fra_klasse, english ? "Classes" : "Klasser");
     show.Caption(Control::Lbl_lastvar_1, english ? "Load-duration class =" : "Lastvarighetsklasse = ");
-    if (s.Lastvar >= 1 && s.Lastvar <= static_cast<int>(class_table.size())) {
-        const ClassRow& row = class_table[static_cast<std::size_t>(s.Lastvar - 1)];
-        s.Lastvar_txt = english ? row.name_eng : row.name_nor;
+    if (const ClassRow* row = Row_of(class_table, s.Lastvar - 1)) {
+        s.Lastvar_txt = english ? row->name_eng : row->name_nor;
     }
 }
 
 // A section of the profile table.
 const ProfRecord& Profile(const ConnectionState& s, int index) {
-    if (index < 0 || index >= prof_rows) {
+    const ProfRecord* row = Row_of(s.Prof, index);
+    if (row == nullptr) {
         Raise(fault_subscript, where);
     }
-    return s.Prof[static_cast<std::size_t>(index)];
+    return *row;
 }
 
 void Get_sections(ConnectionState& s) {
@@ -59,55 +56,105 @@ void Show_section(std::string& text, float value, Control control, const ScreenW
     show.Caption(control, formatted);
 }
 
-void Get_rows(ConnectionValues& s) {
-    s.Has_row = false;
-    switch (s.Con_type) {
-    case 1:
-        return Get_rows_1(s);
-    case 2:
-        return Get_rows_2(s);
-    case 3:
-        return Get_rows_3(s);
-    case 4:
-        return Get_rows_4(s);
-    case 5:
-        return Get_rows_5(s);
-    default:
-        return;
+// Names of project and classes, and what the classes and the number of bolts give.
+void Classes(ConnectionState& s, const ScreenWriter& show) {
+    show.Caption(Control::txtprosjekt, s.Prosjekt);
+    show.Caption(Control::txtid, s.Id);
+    if (Is_english(s)) {
+        Lang_klasser_Eng(s, show);
+    } else {
+        Lang_klasser_Nor(s, show);
     }
+    show.Caption(Control::Lbl_lastvar_2, s.Lastvar_txt);
+    show.Number(Control::Lbl_klima_2, s.Klima, "0");
+    Get_kmod(s);
+    show.Number(Control::Lbl_kmod2, s.kmod, "0.00 ");
+    Get_n_bolt(s);
+}
+
+void Bolt_and_material(ConnectionState& s, const ScreenWriter& show) {
+    Get_bolt(s);
+    Get_skive(s);
+    show.Number(Control::Lbl_skive_diameter2, s.d_skive, "0.0 ");
+    show.Number(Control::Lbl_skive_tykk2, s.t_skive, "0.0 ");
+    Get_material(s, s.Mat_index);
+    Get_gm(s);
+    show.Number(Control::lbl_densitet2, s.rho_k, "0 ");
+    show.Number(Control::Lbl_fc90k2, s.fc90k, "0.0 ");
+    show.Number(Control::lbl_gm, s.gm, "0.00 ");
+}
+
+// Also into the state: the next pass on free entry reads the texts, and so the rounded section.
+void Show_sections(ConnectionState& s, const ScreenWriter& show) {
+    Show_section(s.Txt_b1, s.b1, Control::Txt_b1, show);
+    Show_section(s.Txt_h1, s.h1, Control::Txt_h1, show);
+    Show_section(s.Txt_b2, s.b2, Control::Txt_b2, show);
+    Show_section(s.Txt_h2, s.h2, Control::Txt_h2, show);
+}
+
+// What the members make of the connection: its code, its picture and whether its arrangement can be chosen.
+void Connection(ConnectionState& s, const ScreenWriter& show) {
+    Get_Con_code(s);
+    Plot_connection(s, show);
+    Get_Ab_valg(s);
+    show.Enabled(Control::Cmd_boltetype_0, s.Ab_valg);
+    show.Enabled(Control::Cmd_boltetype_1, s.Ab_valg);
+}
+
+// The distances of the case, and the case itself, which all that follows goes by.
+void Distances(ConnectionState& s, const ScreenWriter& show) {
+    Clear_tables(show);
+    Clear_spacing(s);
+    for (const Control control : {Control::Fra_av_bulldog, Control::Fra_bulldog, Control::Lbl_bulldog_kap1,
+                                  Control::Lbl_bulldog_kap2, Control::Lbl_pluss, Control::Lbl_Rd_bulldog_kontroll}) {
+        show.Visible(control, !s.Kun_bolt);
+    }
+    Plot_screen(s, show);
+    show.Index(Control::Comb_bolt_avstand, s.Avstand_index);
+    Get_Case_code(s);
+}
+
+void Effective_numbers(ConnectionState& s, const ScreenWriter& show) {
+    Get_rows(s);
+    Get_nef(s);
+    show.Visible(Control::Lbl_tot_eff_bulldog_1, s.Med_bulldog);
+    show.Visible(Control::Lbl_tot_eff_bulldog_2, s.Med_bulldog);
+    show.Number(Control::Lbl_2_nef_max, s.Has_row ? s.nef_b : s.n_bolt, "0.00 ");
+    show.Number(Control::Lbl_tot_eff_bulldog_2, s.Has_row ? s.nef_f : s.n_bolt, "0.0 ");
+    show.Visible(Control::lbl_txt_avstand, s.Has_row);
+    show.Visible(Control::Comb_bolt_avstand, s.Has_row);
 }
 
 // The splitting check at minimum distance.
-void Check_splitting(ConnectionValues& s, const ScreenWriter& show) {
+void Check_splitting(ConnectionState& s, const ScreenWriter& show) {
     float h = 0.0F;
     float b = 0.0F;
     float he = 0.0F;
-    const char type = s.Case_code.View().front();
-    switch (type) {
-    case '1':
-        Get_he_1(s, h, b, he);
-        break;
-    case '2':
-        Get_he_2(s, h, b, he);
-        break;
-    case '3':
-        Get_he_3(s, h, b, he);
-        break;
-    case '4':
-        Get_he_4(s, h, b, he);
-        break;
-    case '5':
-        Get_he_5(s, h, b, he);
-        break;
-    default:
-        break;
-    }
-    if (type >= '1' && type <= '5') {
+    Get_he(s, h, b, he);
+    // The angle of types 4 and 5 is fixed.
+    if (const char type = s.Case_code.View().front(); type >= '1' && type <= '5') {
         show.Enabled(Control::Txt_alp, type <= '3');
     }
     s.he = he;
     show.Number(Control::Txt_man_he, s.he, "00");
     Tverr_brudd(s, h, he, b, show);
+}
+
+// Capacities of the whole connection from those of one bolt, N, and one connector, kN, and its utilisation.
+void Utilisation(ConnectionState& s, const ScreenWriter& show, float Rk_bolt, float Rk_for) {
+    Get_Rd_bolt(s, Rk_bolt);
+    show.Number(Control::Lbl_bolt_kap2, s.Rd_bolt, "0.0 ");
+    if (s.Med_bulldog) {
+        Get_Rd_for(s, Rk_for);
+    }
+    show.Number(Control::Lbl_bulldog_kap2, s.Rd_for, "0.0 "); // also the one of an earlier pass
+    show.Number(Control::Lbl_last_kontroll, std::fabs(s.P), "0.0");
+    show.Number(Control::Lbl_Rd_kontroll, s.Rd_bolt, "0.0");
+    if (s.Med_bulldog) {
+        show.Number(Control::Lbl_Rd_bulldog_kontroll, s.Rd_for, "0.0");
+    }
+    Get_uf(s);
+    show.Utilisation(Control::Lbl_uf, s.uf, "0.00 ");
 }
 
 } // namespace
@@ -136,52 +183,20 @@ void Lang_klasser_Nor(ConnectionValues& s, const ScreenWriter& show) {
 
 PassEnd Main_beregn(ConnectionState& s, Screen* screen, MessageBox& box) {
     const ScreenWriter show{screen};
-
-    show.Caption(Control::txtprosjekt, s.Prosjekt);
-    show.Caption(Control::txtid, s.Id);
-    if (Is_english(s)) {
-        Lang_klasser_Eng(s, show);
-    } else {
-        Lang_klasser_Nor(s, show);
-    }
-    show.Caption(Control::Lbl_lastvar_2, s.Lastvar_txt);
-    show.Number(Control::Lbl_klima_2, s.Klima, "0");
-    Get_kmod(s);
-    show.Number(Control::Lbl_kmod2, s.kmod, "0.00 ");
-    Get_n_bolt(s);
-
+    Classes(s, show);
     if (s.Med_bulldog) {
         Bulldog_check(s, show, box);
         if (s.Bulldog_invalid) {
             return PassEnd::connector_refused;
         }
     }
-
-    Get_bolt(s);
-    Get_skive(s);
-    show.Number(Control::Lbl_skive_diameter2, s.d_skive, "0.0 ");
-    show.Number(Control::Lbl_skive_tykk2, s.t_skive, "0.0 ");
-    Get_material(s, s.Mat_index);
-    Get_gm(s);
-    show.Number(Control::lbl_densitet2, s.rho_k, "0 ");
-    show.Number(Control::Lbl_fc90k2, s.fc90k, "0.0 ");
-    show.Number(Control::lbl_gm, s.gm, "0.00 ");
-
+    Bolt_and_material(s, show);
     Get_sections(s);
     if (s.b1 == 0.0F || s.b2 == 0.0F || s.h1 == 0.0F || s.h2 == 0.0F) {
         return PassEnd::zero_section;
     }
-    // Also in the state: the next pass on free entry reads the texts, and so the rounded section.
-    Show_section(s.Txt_b1, s.b1, Control::Txt_b1, show);
-    Show_section(s.Txt_h1, s.h1, Control::Txt_h1, show);
-    Show_section(s.Txt_b2, s.b2, Control::Txt_b2, show);
-    Show_section(s.Txt_h2, s.h2, Control::Txt_h2, show);
-
-    Get_Con_code(s);
-    Plot_connection(s, show);
-    Get_Ab_valg(s);
-    show.Enabled(Control::Cmd_boltetype_0, s.Ab_valg);
-    show.Enabled(Control::Cmd_boltetype_1, s.Ab_valg);
+    Show_sections(s, show);
+    Connection(s, show);
 
     float Rk_bolt = 0.0F;
     Get_Rk(s, Rk_bolt);
@@ -190,44 +205,13 @@ PassEnd Main_beregn(ConnectionState& s, Screen* screen, MessageBox& box) {
         Bulldog_Rk(s, Rk_for);
         show.Number(Control::Lbl_bulldog2, s.Fv_Rk, "0.00 ");
     }
-
-    Clear_tables(show);
-    Clear_spacing(s);
-    for (const Control control : {Control::Fra_av_bulldog, Control::Fra_bulldog, Control::Lbl_bulldog_kap1,
-                                  Control::Lbl_bulldog_kap2, Control::Lbl_pluss, Control::Lbl_Rd_bulldog_kontroll}) {
-        show.Visible(control, !s.Kun_bolt);
-    }
-    Plot_screen(s, show);
-    show.Index(Control::Comb_bolt_avstand, s.Avstand_index);
-    Get_Case_code(s);
-
-    Get_rows(s);
-    Get_nef(s);
-    show.Visible(Control::Lbl_tot_eff_bulldog_1, s.Med_bulldog);
-    show.Visible(Control::Lbl_tot_eff_bulldog_2, s.Med_bulldog);
-    show.Number(Control::Lbl_2_nef_max, s.Has_row ? s.nef_b : s.n_bolt, "0.00 ");
-    show.Number(Control::Lbl_tot_eff_bulldog_2, s.Has_row ? s.nef_f : s.n_bolt, "0.0 ");
-    show.Visible(Control::lbl_txt_avstand, s.Has_row);
-    show.Visible(Control::Comb_bolt_avstand, s.Has_row);
-
+    Distances(s, show);
+    Effective_numbers(s, show);
     // With he typed by the user the check runs only when he is accepted.
     if (!s.Man_he_on) {
         Check_splitting(s, show);
     }
-
-    Get_Rd_bolt(s, Rk_bolt);
-    show.Number(Control::Lbl_bolt_kap2, s.Rd_bolt, "0.0 ");
-    if (s.Med_bulldog) {
-        Get_Rd_for(s, Rk_for);
-    }
-    show.Number(Control::Lbl_bulldog_kap2, s.Rd_for, "0.0 "); // also the one of an earlier pass
-    show.Number(Control::Lbl_last_kontroll, std::fabs(s.P), "0.0");
-    show.Number(Control::Lbl_Rd_kontroll, s.Rd_bolt, "0.0");
-    if (s.Med_bulldog) {
-        show.Number(Control::Lbl_Rd_bulldog_kontroll, s.Rd_for, "0.0");
-    }
-    Get_uf(s);
-    show.Utilisation(Control::Lbl_uf, s.uf, "0.00 ");
+    Utilisation(s, show, Rk_bolt, Rk_for);
     show.Visible(Control::Cmd_detail, true);
     s.Loading = false;
     return PassEnd::normal;

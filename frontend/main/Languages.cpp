@@ -100,7 +100,7 @@ void Write(ConnectionValues& s, const SetCaption& set, bool english) {
             set(row.control, caption);
         }
     }
-    if (const MemberRow* row = Member_names(s.Con_type, english)) {
+    if (const MemberRow* row = Member_captions(s.Con_type, english)) {
         for (const std::string_view control : {"Fra_snitt_1", "Fra_dim_1"}) {
             set(control, row->name_1);
         }
@@ -129,7 +129,7 @@ std::span<const CaptionRow> Caption_rows() {
     return caption_rows;
 }
 
-const MemberRow* Member_names(int Con_type, bool english) {
+const MemberRow* Member_captions(int Con_type, bool english) {
     if (Con_type < 1 || Con_type > 5) {
         return nullptr;
     }

@@ -27,7 +27,7 @@ struct MemberRow {
 };
 
 // The row of a type 1 to 5, or null.
-const MemberRow* Member_names(int Con_type, bool english);
+const MemberRow* Member_captions(int Con_type, bool english);
 
 // Writes a caption by the name of its control.
 using SetCaption = std::function<void(std::string_view control, std::string_view caption)>;

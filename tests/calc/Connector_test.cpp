@@ -15,7 +15,7 @@ constexpr double hand = 5e-7;
 
 TEST(Connector, refuses_the_bolts_of_the_table_in_both_qualities) {
     // clang-format off
-    const bool refused[5][8] = {
+    const bool refused[][8] = {
         //              M12    M16    M20    M24    M12    M16    M20    M24
         //              4.6    4.6    4.6    4.6    8.8    8.8    8.8    8.8
         /* D50  */    {false, false, true,  true,  false, false, true,  true},
@@ -25,8 +25,9 @@ TEST(Connector, refuses_the_bolts_of_the_table_in_both_qualities) {
         /* D117 */    {true,  false, false, false, true,  false, false, false},
     };
     // clang-format on
-    for (std::int16_t connector = 0; connector < 5; ++connector) {
-        for (std::int16_t bolt = 0; bolt < 8; ++bolt) {
+    static_assert(std::size(refused) == connector_table.size() && std::size(refused[0]) == bolt_table.size());
+    for (std::int16_t connector = 0; connector < std::ssize(refused); ++connector) {
+        for (std::int16_t bolt = 0; bolt < std::ssize(refused[0]); ++bolt) {
             SCOPED_TRACE(testing::Message() << connector_table[static_cast<std::size_t>(connector)].caption_eng
                                             << " with " << bolt_table[static_cast<std::size_t>(bolt)].caption);
             ConnectionValues s;
@@ -91,13 +92,13 @@ TEST(Connector, the_check_reads_the_row_of_the_bolt_not_its_diameter) {
     test::RecordingMessageBox box;
     Bulldog_check(s, ScreenWriter{nullptr}, box);
     EXPECT_FALSE(s.Bulldog_invalid);
-    s.Bolt_index = 8; // no such row: nothing to refuse
+    s.Bolt_index = static_cast<std::int16_t>(bolt_table.size()); // no such row: nothing to refuse
     Bulldog_check(s, ScreenWriter{nullptr}, box);
     EXPECT_FALSE(s.Bulldog_invalid);
 }
 
 TEST(Connector, a_connector_row_outside_the_table_is_not_checked) {
-    for (const int index : {-1, 5}) {
+    for (const int index : {-1, static_cast<int>(connector_table.size())}) {
         for (const bool invalid : {false, true}) {
             SCOPED_TRACE(index);
             ConnectionValues s;
@@ -200,7 +201,7 @@ TEST(Connector, density_factor_is_exact_where_it_turns) {
 }
 
 TEST(Connector, a_row_outside_the_table_passes_the_callers_value_on) {
-    for (const int index : {-1, 5}) {
+    for (const int index : {-1, static_cast<int>(connector_table.size())}) {
         SCOPED_TRACE(index);
         ConnectionValues s;
         s.Bulldog_index = static_cast<std::int16_t>(index);

@@ -34,6 +34,15 @@ TEST(FixedText, is_blank_padded_on_the_right_and_cut_to_its_length) {
     EXPECT_EQ(FixedText<20>{"Instantaneous action"}.View(), "Instantaneous action");
 }
 
+TEST(FixedText, takes_one_of_another_length) {
+    FixedText<15> shorter;
+    shorter = FixedText<20>{"Instantaneous action"};
+    EXPECT_EQ(shorter.View(), "Instantaneous a");
+    FixedText<20> longer;
+    longer = shorter;
+    EXPECT_EQ(longer.View(), "Instantaneous a     ");
+}
+
 TEST(FixedText, counts_characters_not_bytes) {
     EXPECT_EQ(FixedText<9>{"Halvårslast"}.View(), "Halvårsla");
     EXPECT_EQ(FixedText<5>{"Øye"}.View(), "Øye  ");

@@ -48,17 +48,9 @@ constexpr std::array<RowOfCase, 22> row_table{{
 }};
 // clang-format on
 
-// Shear planes of the connection.
-double Planes(const ConnectionValues& s) {
-    return s.dob_1 || s.dob_2 ? 2.0 : 1.0;
-}
-
-} // namespace
-
-void Get_rows(ConnectionValues& s) {
-    s.Has_row = false;
+void Get_rows(ConnectionValues& s, char type) {
     const std::string_view code = s.Case_code.View();
-    if (code.front() - '0' != s.Con_type) {
+    if (code.front() != type) {
         return;
     }
     for (const RowOfCase& row : row_table) {
@@ -70,6 +62,33 @@ void Get_rows(ConnectionValues& s) {
             return;
         }
     }
+}
+
+// Shear planes of the connection.
+double Planes(const ConnectionValues& s) {
+    return s.dob_1 || s.dob_2 ? 2.0 : 1.0;
+}
+
+} // namespace
+
+void Get_rows_1(ConnectionValues& s) {
+    Get_rows(s, '1');
+}
+
+void Get_rows_2(ConnectionValues& s) {
+    Get_rows(s, '2');
+}
+
+void Get_rows_3(ConnectionValues& s) {
+    Get_rows(s, '3');
+}
+
+void Get_rows_4(ConnectionValues& s) {
+    Get_rows(s, '4');
+}
+
+void Get_rows_5(ConnectionValues& s) {
+    Get_rows(s, '5');
 }
 
 void Get_nef(ConnectionValues& s) {

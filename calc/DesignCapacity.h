@@ -6,11 +6,13 @@
 
 namespace tarnvik {
 
-// Has_row, and with a row a1, n_row and rows, by Case_code. The spacing is the bolts' value, also with connectors.
-//
-// The case has to be of Con_type. Where a pass finds no case, for a type outside 1 to 5 or an unknown arrangement,
-// Case_code stays that of an earlier pass: of another type, its rows do not count, and Has_row is false.
-void Get_rows(ConnectionValues& s);
+// Has_row, a1, n_row and rows by Case_code, for the connection types 1 to 5. A case without a row of fasteners along
+// the grain, or of another type, sets nothing. The spacing is the bolts' value, also with connectors.
+void Get_rows_1(ConnectionValues& s);
+void Get_rows_2(ConnectionValues& s);
+void Get_rows_3(ConnectionValues& s);
+void Get_rows_4(ConnectionValues& s);
+void Get_rows_5(ConnectionValues& s);
 
 // Effective numbers, computed for every case from whatever a1, n_row and rows are:
 //   nef_b_row = min(n_row; n_row^0.9 (a1 / 13 d)^0.25)            EN 1995-1-1 (8.34)

@@ -68,22 +68,44 @@ constexpr std::array<LoadedEdge, 35> edge_table{{
 // a required exception.
 constexpr std::array<std::string_view, 5> half_force{"1.3", "2.3", "3.2", "4.2", "5.2"};
 
-} // namespace
-
-void Get_he(const ConnectionValues& s, float& h, float& b, float& he) {
+void Get_he(const ConnectionValues& s, char type, float& h, float& b, float& he) {
     h = 0.0F;
     b = 0.0F;
     he = 0.0F;
     const std::string_view code = s.Case_code.View();
+    if (code.front() != type) {
+        return;
+    }
     for (const LoadedEdge& row : edge_table) {
         if (row.Case_code == code) {
-            const bool second = code.front() == '1';
-            h = second ? s.h2 : s.h1;
-            b = second ? s.b2 : s.b1;
+            h = type == '1' ? s.h2 : s.h1;
+            b = type == '1' ? s.b2 : s.b1;
             he = Store(static_cast<double>(h) - s.*(s.P > 0.0F ? row.compression : row.tension), "Get_he");
             return;
         }
     }
+}
+
+} // namespace
+
+void Get_he_1(const ConnectionValues& s, float& h, float& b, float& he) {
+    Get_he(s, '1', h, b, he);
+}
+
+void Get_he_2(const ConnectionValues& s, float& h, float& b, float& he) {
+    Get_he(s, '2', h, b, he);
+}
+
+void Get_he_3(const ConnectionValues& s, float& h, float& b, float& he) {
+    Get_he(s, '3', h, b, he);
+}
+
+void Get_he_4(const ConnectionValues& s, float& h, float& b, float& he) {
+    Get_he(s, '4', h, b, he);
+}
+
+void Get_he_5(const ConnectionValues& s, float& h, float& b, float& he) {
+    Get_he(s, '5', h, b, he);
 }
 
 void Get_splitting_member(const ConnectionValues& s, float& h, float& b) {

@@ -8,11 +8,13 @@
 namespace tarnvik {
 
 // Height and width of the member that splits and he, the distance from the loaded edge to the farthest bolt at minimum
-// distance, mm, by Case_code and the sign of P. A code outside the catalogue gives 0 for all three.
-//
-// By the case alone, also by one that stays from an earlier pass whatever Con_type is now: unlike the rows (Get_rows)
-// the check is never left out, and the case says which member splits.
-void Get_he(const ConnectionValues& s, float& h, float& b, float& he);
+// distance, mm, by Case_code and the sign of P, for the connection types 1 to 5. A code that the type does not hold
+// gives 0 for all three.
+void Get_he_1(const ConnectionValues& s, float& h, float& b, float& he);
+void Get_he_2(const ConnectionValues& s, float& h, float& b, float& he);
+void Get_he_3(const ConnectionValues& s, float& h, float& b, float& he);
+void Get_he_4(const ConnectionValues& s, float& h, float& b, float& he);
+void Get_he_5(const ConnectionValues& s, float& h, float& b, float& he);
 
 // Height and width of the member that splits by Con_type: member 2 of type 1, member 1 of all others.
 void Get_splitting_member(const ConnectionValues& s, float& h, float& b);

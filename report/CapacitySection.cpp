@@ -172,16 +172,19 @@ void PrintBeta(PrintTarget& target, const ConnectionValues& s, double y, double 
     Print_at(target, x, y - 10, Join({s.t2_txt, Format(s.t2, "0.00"), texts->note2.In(eng)}));
 }
 
-// The modes of single or of double shear. The equation stands as a picture between label and equals sign.
+// The equation stands as a picture between label and equals sign.
+void PrintRk(PrintTarget& target, const ConnectionValues& s, const Mode& mode, double y, double x) {
+    Print_at(target, x, y, mode.label);
+    Print_at(target, x + 150, y, "=");
+    Print_bold_at(target, x + 153, y, Kilonewtons(static_cast<float>(static_cast<double>(s.*mode.Fv) / 1000.0)));
+}
+
+// The modes of single or of double shear.
 void PrintModes(PrintTarget& target, const ConnectionValues& s, bool double_shear, double Y, double x) {
     for (const Mode& mode : modes) {
-        if (mode.double_shear != double_shear) {
-            continue;
+        if (mode.double_shear == double_shear) {
+            PrintRk(target, s, mode, Y - mode.down, x);
         }
-        const double y = Y - mode.down;
-        Print_at(target, x, y, mode.label);
-        Print_at(target, x + 150, y, "=");
-        Print_bold_at(target, x + 153, y, Kilonewtons(static_cast<float>(static_cast<double>(s.*mode.Fv) / 1000.0)));
     }
 }
 

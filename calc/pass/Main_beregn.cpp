@@ -1,5 +1,6 @@
 #include "calc/pass/Main_beregn.h"
 
+#include <array>
 #include <cmath>
 
 #include "calc/Connector.h"
@@ -114,6 +115,16 @@ void Distances(ConnectionState& s, const ScreenWriter& show) {
     Get_Case_code(s);
 }
 
+// By the type that is selected: a case that stays from another type, where a pass finds none, has no row here. A type
+// outside 1 to 5 has none either.
+void Get_rows(ConnectionValues& s) {
+    constexpr std::array get_rows{Get_rows_1, Get_rows_2, Get_rows_3, Get_rows_4, Get_rows_5};
+    s.Has_row = false;
+    if (s.Con_type >= 1 && s.Con_type <= static_cast<int>(get_rows.size())) {
+        get_rows[static_cast<std::size_t>(s.Con_type - 1)](s);
+    }
+}
+
 void Effective_numbers(ConnectionState& s, const ScreenWriter& show) {
     Get_rows(s);
     Get_nef(s);
@@ -125,15 +136,16 @@ void Effective_numbers(ConnectionState& s, const ScreenWriter& show) {
     show.Visible(Control::Comb_bolt_avstand, s.Has_row);
 }
 
-// The splitting check at minimum distance.
+// The splitting check at minimum distance. By the case alone, also by one that stays from an earlier pass: unlike the
+// rows the check is never left out, and the case says which member splits.
 void Check_splitting(ConnectionState& s, const ScreenWriter& show) {
+    constexpr std::array get_he{Get_he_1, Get_he_2, Get_he_3, Get_he_4, Get_he_5};
     float h = 0.0F;
     float b = 0.0F;
     float he = 0.0F;
-    Get_he(s, h, b, he);
-    // The angle of types 4 and 5 is fixed.
     if (const char type = s.Case_code.View().front(); type >= '1' && type <= '5') {
-        show.Enabled(Control::Txt_alp, type <= '3');
+        get_he[static_cast<std::size_t>(type - '1')](s, h, b, he);
+        show.Enabled(Control::Txt_alp, type <= '3'); // the angle of types 4 and 5 is fixed
     }
     s.he = he;
     show.Number(Control::Txt_man_he, s.he, "00");

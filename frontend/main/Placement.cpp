@@ -109,7 +109,7 @@ void Cover_sketches(const QMainWindow& window, const MainControls& controls) {
 
 } // namespace
 
-void Place_controls(QMainWindow& window, const MainControls& controls) {
+void WritefrmInput1(QMainWindow& window, const MainControls& controls) {
     Boxes boxes = Built_sizes();
     Widen_labels(window, boxes);
     const Box inside{0.0, 0.0, window.width() * twips_per_inch / window.logicalDpiX(),

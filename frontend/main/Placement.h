@@ -9,6 +9,6 @@ namespace tarnvik {
 
 // Sizes and places all controls for the window as large as it is: built sizes, room for the texts of both languages,
 // the layout rules, and then, once, pixels.
-void Place_controls(QMainWindow& window, const MainControls& controls);
+void WritefrmInput1(QMainWindow& window, const MainControls& controls);
 
 } // namespace tarnvik

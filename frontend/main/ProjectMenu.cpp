@@ -56,7 +56,7 @@ void ProjectMenu::Open() {
     FileRequest request;
     request.filter = "*.tnvik";
     request.file_name = "*.tnvik";
-    request.flags = 4100; // the file must exist, no read-only box
+    request.flags = file_must_exist | hide_read_only;
     const std::optional<std::string> path = services_.files.Open(request);
     if (!path) {
         services_.boxes.Show("Cancel were pressed", box_plain);
@@ -80,7 +80,7 @@ void ProjectMenu::Save_as() {
     request.filter = "*.tnvik";
     request.file_name = session_.State().File_name;
     request.default_extension = "tnvik";
-    request.flags = 6; // prompt on overwrite, no read-only box
+    request.flags = prompt_on_overwrite | hide_read_only;
     const std::optional<std::string> path = services_.files.Save(request);
     if (!path) {
         services_.boxes.Show("Cancel were pressed", box_plain);

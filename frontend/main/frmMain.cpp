@@ -56,7 +56,7 @@ void frmMain::Load() {
     StartValue_controls();
     lists_.WritefrmCboBulldog();
     lists_.WritefrmCboMatProf();
-    Place_controls(*this, controls_);
+    WritefrmInput1(*this, controls_);
     lists_.WritefrmInput2();
     title_prefix_ = "Tarnvik: ";
     Set_caption();
@@ -201,9 +201,8 @@ void frmMain::Open_manual() {
 }
 
 void frmMain::Print_report() {
-    constexpr int no_selection_no_file_box = 0x100004;
     try {
-        const auto target = services_.printer.Show_printer({no_selection_no_file_box, s_.Prosjekt});
+        const auto target = services_.printer.Show_printer({no_selection | hide_print_to_file, s_.Prosjekt});
         if (target != nullptr) {
             session_.Print(*target, services_.clock.Now());
             target->EndDoc();

@@ -39,6 +39,9 @@ ConnectionValues Distances() {
     return s;
 }
 
+constexpr std::array<void (*)(ConnectionValues&), 5> get_rows{Get_rows_1, Get_rows_2, Get_rows_3, Get_rows_4,
+                                                              Get_rows_5};
+
 TEST(DesignCapacity, rows_along_the_grain_of_the_cases_that_have_one) {
     struct Row {
         const char* code;
@@ -73,17 +76,15 @@ TEST(DesignCapacity, rows_along_the_grain_of_the_cases_that_have_one) {
     // clang-format on
     for (const Row& row : table) {
         SCOPED_TRACE(row.code);
-        for (std::int16_t type = 0; type <= 6; ++type) {
+        for (char type = '1'; type <= '5'; ++type) {
             SCOPED_TRACE(type);
             ConnectionValues s = Distances();
-            s.Con_type = type;
             s.Case_code = row.code;
-            s.Has_row = true; // of an earlier pass
             s.a1 = 1.0F;
             s.n_row = 7;
             s.rows = 8;
-            Get_rows(s);
-            const bool own = type == row.code[0] - '0'; // a case of another type does not count
+            get_rows[static_cast<std::size_t>(type - '1')](s);
+            const bool own = type == row.code[0]; // the routine of another type holds no such case
             EXPECT_EQ(s.Has_row, own);
             EXPECT_EQ(s.a1, own ? row.a1 : 1.0F);
             EXPECT_EQ(s.n_row, own ? row.n_row : 7);
@@ -101,16 +102,13 @@ TEST(DesignCapacity, all_other_cases_set_nothing) {
         s.a1 = 1.0F;
         s.n_row = 7;
         s.rows = 8;
-        for (std::int16_t type = 1; type <= 5; ++type) {
-            SCOPED_TRACE(type);
-            s.Con_type = type;
-            s.Has_row = true; // of an earlier pass
-            Get_rows(s);
-            EXPECT_FALSE(s.Has_row);
-            EXPECT_EQ(s.a1, 1.0F);
-            EXPECT_EQ(s.n_row, 7);
-            EXPECT_EQ(s.rows, 8);
+        for (const auto routine : get_rows) {
+            routine(s);
         }
+        EXPECT_FALSE(s.Has_row);
+        EXPECT_EQ(s.a1, 1.0F);
+        EXPECT_EQ(s.n_row, 7);
+        EXPECT_EQ(s.rows, 8);
     }
 }
 

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "calc/RuntimeFault.h"
+#include "calc/Version.h"
 #include "check/Options.h"
 #include "check/Status.h"
 #include "check/Tool.h"
@@ -21,7 +22,7 @@ int Run_check(const std::vector<std::string>& arguments, const std::filesystem::
             return exit_holds;
         }
         if (options.version) {
-            out << "tarnvik-check " << version << "\n";
+            out << "tarnvik-check " << TARNVIK_VERSION << "\n";
             return exit_holds;
         }
         if (options.pictures) {

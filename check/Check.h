@@ -10,8 +10,6 @@
 
 namespace tarnvik {
 
-inline constexpr const char* version = "1.2.0";
-
 class Rendering;
 
 // Runs the tool and gives its exit status (check/Status.h). `program_folder` is where the data files lie unless --data

@@ -1,5 +1,6 @@
 #include <array>
 
+#include "calc/Version.h"
 #include "report/Sections.h"
 
 namespace tarnvik {
@@ -7,8 +8,8 @@ namespace tarnvik {
 namespace {
 
 constexpr std::array<InfoLines, 2> info_lines{{
-    {"Calculation of bolts according to Eurocode 5", "Version  1.2.0", "Tarnvik developers"},
-    {"Beregning av bolteforbindelser ifølge Eurocode 5", "Versjon  1.2.0", "Tarnvik developers"},
+    {"Calculation of bolts according to Eurocode 5", "Version  " TARNVIK_VERSION, "Tarnvik developers"},
+    {"Beregning av bolteforbindelser ifølge Eurocode 5", "Versjon  " TARNVIK_VERSION, "Tarnvik developers"},
 }};
 
 struct FrameLine {

@@ -37,7 +37,7 @@ void Session::Recalculate() {
 std::optional<RuntimeFault> Session::Open(const std::string& path, const std::function<void()>& show) {
     std::optional<RuntimeFault> failure;
     try {
-        Project_record record;
+        ProjectRecord record;
         Load_project(s_, record, path);
         Apply_project(s_, record);
         if (show) {
@@ -57,7 +57,7 @@ void Session::Name(const std::string& path) {
 }
 
 void Session::Save(const std::string& path, const std::optional<TypedNames>& typed) const {
-    Project_record record;
+    ProjectRecord record;
     Fill_project(s_, record);
     if (typed) {
         record.Prosjekt = typed->Prosjekt;

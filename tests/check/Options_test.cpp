@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "calc/StateFields.h"
+#include "calc/Version.h"
 #include "tests/support/Tool.h"
 
 namespace tarnvik {
@@ -145,6 +146,11 @@ Arguments Options_in(const std::string& text) {
     std::sort(found.begin(), found.end());
     found.erase(std::unique(found.begin(), found.end()), found.end());
     return found;
+}
+
+TEST(Options, the_manual_page_is_that_of_this_version) {
+    const std::string page = test::Read_file(std::filesystem::path{TARNVIK_SOURCE_DIR} / "docs" / "tarnvik-check.1");
+    EXPECT_NE(page.substr(0, page.find('\n')).find("\"Tarnvik " TARNVIK_VERSION "\""), std::string::npos);
 }
 
 TEST(Options, the_manual_page_tells_every_option_and_input_of_the_help) {

@@ -3,7 +3,7 @@
 
 Float values are compared bit for bit as binary32, fixed texts blank-padded, all other values exactly.
 Further options: --show K (mismatching lines printed, default 5), --edges F (share of steps with edge values, default 0.25),
---open (also inputs whose treatment the text leaves open: exponents, "-0.04", fixed texts of another length),
+--open (also inputs at the edge of what a user would write: exponents, "-0.04", fixed texts of another length),
 --data DIR (passed on to the tool), --lines FILE (inputs from a file instead of random ones), --keep FILE (write the inputs).
 Exit status 0 when all agree, 1 otherwise. A REPORT of the end kinds and of what was covered is printed."""
 import argparse, collections, json, os, random, subprocess, sys, tempfile

@@ -20,7 +20,7 @@ EDGE = {"Lastvar": [0, 6, -1], "Klima": [0, 4], "Mat_index": [-1, 37, 100, 101, 
         "Kun_bolt": [False, True], "Med_bulldog": [False, True], "Man_he_on": [False, True], "Standard": [False, True],
         "Prosjekt": ["", "Prøve – 1"], "Id": ["", "B-7"]}
 
-# Inputs whose treatment is open: exponents, a negative that shows as zero, fixed texts too short or too long.
+# Inputs at the edge of what a user would write: exponents, a negative that shows as zero, fixed texts too short or too long.
 OPEN = {"Txt_b1": ["1e2", "-0.04", "1e30"], "Txt_h2": ["1e2", "2E2"], "Bolt_ab": ["", "ba"], "Lang": ["", "English"]}
 
 

@@ -1,6 +1,6 @@
-// Whole reports against expected lines that were made apart from the program: places and words from the description of
-// the report, values from the state. Every connection code, every case, with and without connectors, both languages,
-// both signs of the force; printed one after the other, so that texts of earlier prints show where they have to.
+// Whole reports against expected lines that were made apart from the program: places and words from tables of their
+// own, values from the state. Every connection code, every case, with and without connectors, both languages, both
+// signs of the force; printed one after the other, so that texts of earlier prints show where they have to.
 #include <fstream>
 #include <set>
 

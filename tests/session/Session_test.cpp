@@ -4,21 +4,10 @@
 
 #include "report/Recorder.h"
 #include "tests/support/Files.h"
-#include "tests/support/RecordingMessageBox.h"
+#include "tests/support/RecordingView.h"
 
 namespace tarnvik::test {
 namespace {
-
-// Keeps what the session asks of it, in turn.
-class RecordingView final : public SessionView {
-public:
-    MessageBox& Box() override { return box; }
-    void Before_pass() override { events.emplace_back("before"); }
-    void After_pass() override { events.emplace_back("after"); }
-
-    RecordingMessageBox box;
-    std::vector<std::string> events;
-};
 
 class SessionTest : public testing::Test {
 protected:

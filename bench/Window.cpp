@@ -17,7 +17,8 @@
 #include "frontend/controls/Style.h"
 #include "frontend/main/frmMain.h"
 #include "frontend/painting/Icon.h"
-#include "ports/SettingsStore.h"
+#include "session/SystemClock.h"
+#include "tests/support/MemorySettingsStore.h"
 
 namespace {
 
@@ -59,7 +60,7 @@ struct Program {
     NoBoxes boxes;
     NoFiles files;
     NoOpener opener;
-    tarnvik::MemorySettingsStore settings;
+    tarnvik::test::MemorySettingsStore settings;
     NoPrinter printer;
     tarnvik::SystemClock clock;
     tarnvik::ConnectionState state;

@@ -257,16 +257,4 @@ void Open_project_failed(ConnectionState& s, int number, MessageBox& box) {
     }
 }
 
-int Open_project(ConnectionState& s, const fs::path& path, MessageBox& box) {
-    try {
-        Project_record record;
-        Load_project(s, record, path);
-        Apply_project(s, record);
-        return 0;
-    } catch (const RuntimeFault& fault) {
-        Open_project_failed(s, fault.number, box);
-        return fault.number;
-    }
-}
-
 } // namespace tarnvik

@@ -60,7 +60,4 @@ void Load_project(ConnectionState& s, Project_record& record, const std::filesys
 // The message of a failed open: 53, 59 and 76 have one, any other failure has none. After a 59 Loading is false.
 void Open_project_failed(ConnectionState& s, int number, MessageBox& box);
 
-// Load_project and Apply_project, failures told in the box. Returns the number of the failure, 0 without one.
-int Open_project(ConnectionState& s, const std::filesystem::path& path, MessageBox& box);
-
 } // namespace tarnvik

@@ -4,7 +4,6 @@
 
 #include <cmath>
 
-#include "tests/calc/Support.h"
 
 namespace tarnvik {
 namespace {

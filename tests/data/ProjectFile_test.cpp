@@ -18,6 +18,7 @@ namespace {
 
 namespace fs = std::filesystem;
 using test::Fault_of;
+using test::Open_project;
 using test::Read_file;
 using test::TemporaryFolder;
 using test::Write_file;

@@ -3,11 +3,13 @@
 #include <gtest/gtest.h>
 
 #include "tests/calc/Support.h"
+#include "tests/support/MemorySettingsStore.h"
 
 namespace tarnvik {
 namespace {
 
 using test::Fault_of;
+using test::MemorySettingsStore;
 using Files = std::vector<std::string>;
 
 class RecentFiles : public testing::Test {

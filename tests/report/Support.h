@@ -15,6 +15,7 @@
 #include "report/Recorder.h"
 #include "report/Sections.h"
 #include "tests/calc/Support.h"
+#include "tests/report/Lines.h"
 
 namespace tarnvik::test {
 

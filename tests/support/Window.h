@@ -31,6 +31,7 @@
 #include "frontend/main/frmMain.h"
 #include "tests/data/Support.h"
 #include "tests/support/Fakes.h"
+#include "tests/support/MemorySettingsStore.h"
 
 namespace tarnvik::test {
 

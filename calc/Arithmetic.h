@@ -4,7 +4,6 @@
 #pragma once
 
 #include <cmath>
-#include <limits>
 #include <string_view>
 
 #include "calc/RuntimeFault.h"
@@ -58,9 +57,7 @@ inline double Square(double value) {
     return value * value;
 }
 
-// The smallest and the largest of the first n of four values, n from 2 to 4; values beyond n are ignored. They serve
-// every minimum and maximum of the calculation.
+// The smallest of the first n of four values, n from 2 to 4; values beyond n are ignored.
 float MinVal(int n, float x1, float x2, float x3 = 0.0F, float x4 = 0.0F);
-float MaxVal(int n, float x1, float x2, float x3 = 0.0F, float x4 = 0.0F);
 
 } // namespace tarnvik

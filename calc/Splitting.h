@@ -3,7 +3,6 @@
 
 #include "calc/GlobalParameter.h"
 #include "calc/Screen.h"
-#include "ports/MessageBox.h"
 
 namespace tarnvik {
 

@@ -5,8 +5,6 @@
 
 #include <array>
 #include <cstddef>
-#include <cstdint>
-#include <string>
 #include <string_view>
 
 namespace tarnvik {

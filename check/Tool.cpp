@@ -66,7 +66,7 @@ int Tool::Projects() {
 }
 
 int Tool::Project(const std::string& path) {
-    if (const std::optional<RuntimeFault> failure = session_.Open(path)) {
+    if (const std::optional<RuntimeFault> failure = session_.Open_project(path)) {
         err_ << "tarnvik-check: " << path << ": expected a project file: "
              << (failure->number == fault_bad_record_length ? "it ends too soon" : failure->description) << "\n";
         return exit_usage;

@@ -181,11 +181,11 @@ template <class Archive, class State, class Record> void Visit_parts(Archive& fi
 
 } // namespace
 
-void Fill_project(const ConnectionState& s, ProjectRecord& record) {
+void Fill_project(const ConnectionState& s, Project_record& record) {
     Record_fields(record) = Record_fields(s);
 }
 
-void Apply_project(ConnectionState& s, const ProjectRecord& record) {
+void Apply_project(ConnectionState& s, const Project_record& record) {
     s.Loading = true;
     Record_fields(s) = Record_fields(record);
     Get_dc(s);
@@ -199,28 +199,28 @@ void Apply_project(ConnectionState& s, const ProjectRecord& record) {
     }
 }
 
-std::string Project_bytes(const ConnectionState& s, const ProjectRecord& record) {
+std::string Project_bytes(const ConnectionState& s, const Project_record& record) {
     Writer file;
     Visit_parts(file, s, record);
     return file.Take();
 }
 
-void Read_project(ConnectionState& s, ProjectRecord& record, std::istream& stream) {
+void Read_project(ConnectionState& s, Project_record& record, std::istream& stream) {
     Reader file{stream};
     Visit_parts(file, s, record);
 }
 
-void Save_project(const ConnectionState& s, const ProjectRecord& record, const fs::path& path) {
+void Save_project(const ConnectionState& s, const Project_record& record, const fs::path& path) {
     Safe_write(path, Project_bytes(s, record), OldTail::keep, "Save_project");
 }
 
 void Save_project(const ConnectionState& s, const fs::path& path) {
-    ProjectRecord record;
+    Project_record record;
     Fill_project(s, record);
     Save_project(s, record, path);
 }
 
-void Load_project(ConnectionState& s, ProjectRecord& record, const fs::path& path) {
+void Load_project(ConnectionState& s, Project_record& record, const fs::path& path) {
     std::error_code error;
     const fs::path parent = path.parent_path();
     if (!parent.empty() && !fs::is_directory(parent, error)) {
@@ -254,18 +254,6 @@ void Open_project_failed(ConnectionState& s, int number, MessageBox& box) {
         break;
     default:
         break;
-    }
-}
-
-int Open_project(ConnectionState& s, const fs::path& path, MessageBox& box) {
-    try {
-        ProjectRecord record;
-        Load_project(s, record, path);
-        Apply_project(s, record);
-        return 0;
-    } catch (const RuntimeFault& fault) {
-        Open_project_failed(s, fault.number, box);
-        return fault.number;
     }
 }
 

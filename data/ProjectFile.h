@@ -14,7 +14,7 @@
 namespace tarnvik {
 
 // What the file keeps of one connection. Units as in the connection state.
-struct ProjectRecord {
+struct Project_record {
     std::string Prosjekt, Id;
     std::int16_t Lastvar{};
     FixedText<15> Lastvar_txt; // cut from the 20 characters of the state
@@ -33,34 +33,31 @@ struct ProjectRecord {
 };
 
 // From the state to the record.
-void Fill_project(const ConnectionState& s, ProjectRecord& record);
+void Fill_project(const ConnectionState& s, Project_record& record);
 
 // From the record to the state, with Loading true from here until the next pass ends. dc follows from Bulldog_index as
 // picking the connector sets it. Free entry gets its texts, with one decimal.
 // Errors: subscript out of range (9) where a count exceeds its table, after the fields have been copied.
-void Apply_project(ConnectionState& s, const ProjectRecord& record);
+void Apply_project(ConnectionState& s, const Project_record& record);
 
 // The bytes of the file.
-std::string Project_bytes(const ConnectionState& s, const ProjectRecord& record);
+std::string Project_bytes(const ConnectionState& s, const Project_record& record);
 
 // Reads the nine parts in order into the state's Setup, Mat, Prof and their indices and counts, and into the record.
 // Errors: bad record length (59) where the file ends too soon; what was read so far stays.
-void Read_project(ConnectionState& s, ProjectRecord& record, std::istream& stream);
+void Read_project(ConnectionState& s, Project_record& record, std::istream& stream);
 
 // Writes the file; a longer one keeps its old tail. Errors: as Safe_write.
-void Save_project(const ConnectionState& s, const ProjectRecord& record, const std::filesystem::path& path);
+void Save_project(const ConnectionState& s, const Project_record& record, const std::filesystem::path& path);
 // With the record filled from the state.
 void Save_project(const ConnectionState& s, const std::filesystem::path& path);
 
 // Reads the file and copies language and factors from the Setup record. The record is to be applied next.
 // Errors: file not found (53), path not found (76), bad record length (59), path or file cannot be accessed (75). A
 // failure restores nothing: what was read so far stays.
-void Load_project(ConnectionState& s, ProjectRecord& record, const std::filesystem::path& path);
+void Load_project(ConnectionState& s, Project_record& record, const std::filesystem::path& path);
 
 // The message of a failed open: 53, 59 and 76 have one, any other failure has none. After a 59 Loading is false.
 void Open_project_failed(ConnectionState& s, int number, MessageBox& box);
-
-// Load_project and Apply_project, failures told in the box. Returns the number of the failure, 0 without one.
-int Open_project(ConnectionState& s, const std::filesystem::path& path, MessageBox& box);
 
 } // namespace tarnvik

@@ -1,8 +1,6 @@
 // Start values of a new project.
 #pragma once
 
-#include <filesystem>
-
 #include "calc/GlobalParameter.h"
 
 namespace tarnvik {

@@ -77,30 +77,6 @@ double Units(const Widths& widths, std::string_view text) {
     return sum;
 }
 
-void Append(std::string& line, float value) {
-    line += ' ';
-    line += Shortest(value).View();
-}
-
-void Append_text(std::string& line, std::string_view text) {
-    line += " \"";
-    for (const char c : text) {
-        if (c == '"' || c == '\\') {
-            line += '\\';
-        }
-        line += c;
-    }
-    line += '"';
-}
-
-void Append_font(std::string& line, const PrintFont& font) {
-    line += " in ";
-    line += font.name;
-    Append(line, font.size);
-    line += font.bold ? " bold" : "";
-    line += font.italic ? " italic" : "";
-}
-
 } // namespace
 
 std::string_view Op_name(PrintCall::Op op) {
@@ -109,53 +85,6 @@ std::string_view Op_name(PrintCall::Op op) {
         "FontName",     "FontSize",  "FontBold",   "FontItalic",  "DrawWidth", "Line",
         "PaintPicture", "TextWidth", "Print",      "NewPage",     "EndDoc"};
     return names[static_cast<std::size_t>(op)];
-}
-
-std::string Line_of(const PrintCall& call) {
-    using Op = PrintCall::Op;
-    std::string line = std::to_string(call.page) + " ";
-    line += Op_name(call.op);
-    switch (call.op) {
-    case Op::FontName:
-        Append_text(line, call.text);
-        break;
-    case Op::FontBold:
-    case Op::FontItalic:
-        line += call.flag ? " true" : " false";
-        break;
-    case Op::Line:
-        for (const float value : {call.x, call.y, call.x2, call.y2}) {
-            Append(line, value);
-        }
-        line += " width";
-        Append(line, call.width);
-        break;
-    case Op::PaintPicture:
-        Append_text(line, call.text);
-        for (const float value : {call.x, call.y, call.width, call.height}) {
-            Append(line, value);
-        }
-        break;
-    case Op::TextWidth:
-        Append_text(line, call.text);
-        Append(line, call.value);
-        Append_font(line, call.font);
-        break;
-    case Op::Print:
-        Append_text(line, call.text);
-        line += " at";
-        Append(line, call.x);
-        Append(line, call.y);
-        Append_font(line, call.font);
-        break;
-    case Op::NewPage:
-    case Op::EndDoc:
-        break;
-    default:
-        Append(line, call.value);
-        break;
-    }
-    return line;
 }
 
 PrintCall& Recorder::Add(PrintCall::Op op) {
@@ -266,15 +195,6 @@ void Recorder::NewPage() {
 
 void Recorder::EndDoc() {
     Add(PrintCall::Op::EndDoc);
-}
-
-std::vector<std::string> Recorder::Lines() const {
-    std::vector<std::string> lines;
-    lines.reserve(calls.size());
-    for (const PrintCall& call : calls) {
-        lines.push_back(Line_of(call));
-    }
-    return lines;
 }
 
 } // namespace tarnvik

@@ -1,4 +1,4 @@
-// A print target that keeps every call, as a record and as a line, for tests and for the headless tool.
+// A print target that keeps every call, for tests and for the headless tool.
 #pragma once
 
 #include <string>
@@ -52,17 +52,6 @@ struct PrintCall {
 
 std::string_view Op_name(PrintCall::Op op);
 
-// The call as a line, the number of its page first:
-//
-//     1 CurrentX 16
-//     1 Line 15 290 185 290 width 6
-//     2 PaintPicture "Frm_tarn_vik_bolter_1_trykk/Pic1_2_b" 10 255 65 -67.6
-//     1 TextWidth "Date:" 5.9 in arial 7
-//     1 Print "General data" at 15 268 in Times New Roman 9 bold italic
-//
-// Numbers stand in the shortest form that reads back to the same 32-bit float.
-std::string Line_of(const PrintCall& call);
-
 // Its paper is A4 and its printable area 200 mm by 290 mm. Widths of texts are those of the upright regular faces of
 // Arial and Times New Roman, which the fonts that stand in for them share; any other name measures as Times New Roman.
 class Recorder final : public PrintTarget {
@@ -86,8 +75,6 @@ public:
     void EndDoc() override;
 
     std::vector<PrintCall> calls;
-
-    [[nodiscard]] std::vector<std::string> Lines() const;
 
 private:
     PrintCall& Add(PrintCall::Op op);

@@ -34,10 +34,10 @@ void Session::Recalculate() {
     }
 }
 
-std::optional<RuntimeFault> Session::Open(const std::string& path, const std::function<void()>& show) {
+std::optional<RuntimeFault> Session::Open_project(const std::string& path, const std::function<void()>& show) {
     std::optional<RuntimeFault> failure;
     try {
-        ProjectRecord record;
+        Project_record record;
         Load_project(s_, record, path);
         Apply_project(s_, record);
         if (show) {
@@ -57,7 +57,7 @@ void Session::Name(const std::string& path) {
 }
 
 void Session::Save(const std::string& path, const std::optional<TypedNames>& typed) const {
-    ProjectRecord record;
+    Project_record record;
     Fill_project(s_, record);
     if (typed) {
         record.Prosjekt = typed->Prosjekt;

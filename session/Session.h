@@ -77,7 +77,7 @@ public:
 
     // Reads a project into the state; `show` then brings it onto the controls. A failure of either is told in the box,
     // restores nothing, and is handed back. The project has its name in any case. The caller's pass ends the opening.
-    std::optional<RuntimeFault> Open(const std::string& path, const std::function<void()>& show = {});
+    std::optional<RuntimeFault> Open_project(const std::string& path, const std::function<void()>& show = {});
 
     // The path of the project from now on.
     void Name(const std::string& path);

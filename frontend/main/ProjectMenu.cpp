@@ -104,7 +104,7 @@ void ProjectMenu::Recent_open(int Index) {
 }
 
 void ProjectMenu::Open_path(const std::string& path) {
-    session_.Open(path, show_project_);
+    session_.Open_project(path, show_project_);
     // What follows runs whether or not the file could be read.
     emit Named();
     try {

@@ -4,8 +4,6 @@
 
 #include <bit>
 #include <charconv>
-#include <cmath>
-#include <cstdlib>
 
 #include "tests/support/Calculation.h"
 

@@ -19,6 +19,7 @@ namespace {
 
 namespace fs = std::filesystem;
 using test::Fault_of;
+using test::Open_project;
 using test::Read_file;
 using test::RecordingMessageBox;
 using test::TemporaryFolder;
@@ -141,7 +142,7 @@ struct Slot {
 };
 
 // The fields in the order of the file, the reserved ones left out.
-std::vector<Slot> Slots(ConnectionState& s, ProjectRecord& r) {
+std::vector<Slot> Slots(ConnectionState& s, Project_record& r) {
     std::vector<Slot> slots{{"Language", &s.Setup.Language}};
     for (std::string& line : s.Setup.Setup_line) {
         slots.push_back({"Setup_line", &line});
@@ -235,7 +236,7 @@ public:
 
     // The values in the state and in the record that give the bytes.
     std::unique_ptr<ConnectionState> state = std::make_unique<ConnectionState>();
-    ProjectRecord record;
+    Project_record record;
     std::vector<Slot> slots = Slots(*state, record);
     std::vector<std::size_t> ends; // where each field ends
     std::string bytes;
@@ -297,7 +298,7 @@ protected:
     TemporaryFolder folder;
     std::unique_ptr<ConnectionState> state_ = std::make_unique<ConnectionState>();
     ConnectionState& s = *state_;
-    ProjectRecord record;
+    Project_record record;
     RecordingMessageBox box;
 };
 
@@ -385,25 +386,25 @@ TEST_F(ProjectFile, every_field_has_its_place) {
 TEST_F(ProjectFile, every_flag_has_its_place) {
     struct Row {
         const char* name;
-        bool ProjectRecord::*flag;
+        bool Project_record::*flag;
         std::size_t at; // in the record, behind two empty texts
     };
     // clang-format off
     const Row rows[] = {
-        {"Kun_bolt",    &ProjectRecord::Kun_bolt,    23},
-        {"Med_bulldog", &ProjectRecord::Med_bulldog, 25},
-        {"Standard",    &ProjectRecord::Standard,    33},
-        {"dob_1",       &ProjectRecord::dob_1,       61},
-        {"dob_2",       &ProjectRecord::dob_2,       63},
-        {"enk_1",       &ProjectRecord::enk_1,       65},
-        {"enk_2",       &ProjectRecord::enk_2,       67},
-        {"Man_he_on",   &ProjectRecord::Man_he_on,   72},
+        {"Kun_bolt",    &Project_record::Kun_bolt,    23},
+        {"Med_bulldog", &Project_record::Med_bulldog, 25},
+        {"Standard",    &Project_record::Standard,    33},
+        {"dob_1",       &Project_record::dob_1,       61},
+        {"dob_2",       &Project_record::dob_2,       63},
+        {"enk_1",       &Project_record::enk_1,       65},
+        {"enk_2",       &Project_record::enk_2,       67},
+        {"Man_he_on",   &Project_record::Man_he_on,   72},
     };
     // clang-format on
     const std::size_t begin = 31 + 4242 + 4 + 5614 + 12;
-    const std::string none = Project_bytes(s, ProjectRecord{});
+    const std::string none = Project_bytes(s, Project_record{});
     for (const Row& row : rows) {
-        ProjectRecord one;
+        Project_record one;
         one.*row.flag = true;
         std::string expected = none;
         expected[begin + row.at] = '\xFF';
@@ -423,7 +424,7 @@ TEST_F(ProjectFile, from_the_state_to_the_record_and_back) {
     Fill_project(s, record);
     const auto other = std::make_unique<ConnectionState>();
     Apply_project(*other, record);
-    ProjectRecord again;
+    Project_record again;
     Fill_project(*other, again);
     EXPECT_EQ(Project_bytes(s, again), Hand_written());
 }
@@ -510,7 +511,7 @@ TEST_F(ProjectFile, a_damaged_text_keeps_the_width_of_its_field) {
     record.Bolt_ab = std::string_view{"\xFF\x80\x80\x80"};
     record.man_he = 7.0F;
     const std::string bytes = Project_bytes(s, record);
-    EXPECT_EQ(bytes.size(), Project_bytes(s, ProjectRecord{}).size());
+    EXPECT_EQ(bytes.size(), Project_bytes(s, Project_record{}).size());
     EXPECT_EQ(Read(bytes), 0);
     EXPECT_EQ(record.man_he, 7.0F);
 }

@@ -33,7 +33,7 @@ const SoundFile& Sound_file() {
     static const SoundFile file = [] {
         SoundFile made;
         const ConnectionState& s = fuzz::New_project();
-        ProjectRecord record;
+        Project_record record;
         Fill_project(s, record);
         made.bytes = Project_bytes(s, record);
         std::size_t at = 3;
@@ -126,7 +126,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const std::string file = input.Byte() == 0 ? std::string{input.Rest()} : Edited(input);
     *s = fuzz::New_project();
 
-    ProjectRecord record;
+    Project_record record;
     bool opened = false;
     bool applied = false;
     try {
@@ -144,7 +144,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         const std::string written = Project_bytes(*s, record);
         FUZZ_CHECK(written.size() <= file.size());
         *again = fuzz::New_project();
-        ProjectRecord record_again;
+        Project_record record_again;
         fuzz::ByteStream stream{written};
         Read_project(*again, record_again, stream);
         FUZZ_CHECK(Project_bytes(*again, record_again) == written);

@@ -21,7 +21,7 @@ std::string Title(const ConnectionState& s, int section) {
     const auto prints = Prints(recorder);
     EXPECT_EQ(prints.size(), 1U);
     EXPECT_EQ(prints[0].font, (PrintFont{"Times New Roman", 9.0F, true, true}));
-    EXPECT_EQ(recorder.Lines().back(), "1 FontItalic false");
+    EXPECT_EQ(Lines_of(recorder).back(), "1 FontItalic false");
     return prints[0].text;
 }
 

@@ -19,7 +19,7 @@ TEST(PageFrame, eleven_lines_six_device_pixels_wide) {
     EXPECT_EQ(Line_of(lines[4]), "1 Line 162 278.5 185 278.5 width 6");
     EXPECT_EQ(Line_of(lines[9]), "1 Line 173 290 173 282 width 6");
     const std::vector<std::string> first{"1 CurrentY 290", "1 CurrentX 15", "1 DrawWidth 6"};
-    const std::vector<std::string> all = frame.Lines();
+    const std::vector<std::string> all = Lines_of(frame);
     EXPECT_EQ(std::vector<std::string>(all.begin(), all.begin() + 3), first);
 }
 

@@ -16,7 +16,7 @@ Recorder Report(Connection& connection) {
 TEST(PrintReport, sets_the_scale_once_and_breaks_the_page_once) {
     Connection connection;
     const Recorder report = Report(connection);
-    const std::vector<std::string> lines = report.Lines();
+    const std::vector<std::string> lines = Lines_of(report);
     const std::vector<std::string> first{"1 ScaleLeft 0", "1 ScaleTop 290", "1 ScaleWidth 200", "1 ScaleHeight -290"};
     EXPECT_EQ(std::vector<std::string>(lines.begin(), lines.begin() + 4), first);
     for (const auto op : {PrintCall::Op::ScaleLeft, PrintCall::Op::ScaleTop, PrintCall::Op::ScaleWidth,

@@ -50,7 +50,7 @@ TEST(Recorder, every_operation_is_a_line_with_its_page) {
         "2 EndDoc",
         "2 EndDoc",
     };
-    EXPECT_EQ(recorder.Lines(), wanted);
+    EXPECT_EQ(Lines_of(recorder), wanted);
 }
 
 // Advances of the fonts' own drawings, 1/2048 em: "0" is 1139 in Arial and 1024 in Times New Roman, "." 569 and 512,
@@ -66,7 +66,7 @@ TEST(Recorder, widths_of_texts_are_those_of_the_fonts) {
     EXPECT_FLOAT_EQ(recorder.TextWidth("00.0"), 5.55625F); // 1.75 em of 9 points
     EXPECT_FLOAT_EQ(recorder.TextWidth("ø"), 1.5875F);     // half an em
     EXPECT_FLOAT_EQ(recorder.TextWidth(""), 0.0F);
-    EXPECT_EQ(recorder.Lines().back(), "1 TextWidth \"\" 0 in Times New Roman 9");
+    EXPECT_EQ(Lines_of(recorder).back(), "1 TextWidth \"\" 0 in Times New Roman 9");
 }
 
 TEST(Recorder, a_damaged_text_is_measured_to_its_end) {

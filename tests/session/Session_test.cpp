@@ -85,7 +85,7 @@ TEST_F(SessionTest, saves_names_that_are_typed_and_opens_them_again) {
     EXPECT_FALSE(s.File_named);         // nor is the project named by a save
     s.P = 1.0F;
     bool loading = false;
-    EXPECT_FALSE(session.Open(path, [&] { loading = s.Loading; }));
+    EXPECT_FALSE(session.Open_project(path, [&] { loading = s.Loading; }));
     EXPECT_TRUE(loading);
     EXPECT_EQ(s.P, 17.5F);
     EXPECT_EQ(s.Prosjekt, "Typed project");
@@ -100,7 +100,7 @@ TEST_F(SessionTest, a_failed_opening_is_told_handed_back_and_names_the_project_a
     session.Save(path);
     std::filesystem::resize_file(path, 1000);
     bool shown = false;
-    const auto failure = session.Open(path, [&] { shown = true; });
+    const auto failure = session.Open_project(path, [&] { shown = true; });
     ASSERT_TRUE(failure);
     EXPECT_EQ(failure->number, fault_bad_record_length);
     EXPECT_FALSE(shown);
@@ -113,7 +113,7 @@ TEST_F(SessionTest, a_fault_while_the_controls_are_filled_counts_as_one_of_the_o
     Start();
     const std::string path = (folder / "joint.tnvik").string();
     session.Save(path);
-    const auto failure = session.Open(path, [] { Raise(fault_subscript, "test"); });
+    const auto failure = session.Open_project(path, [] { Raise(fault_subscript, "test"); });
     ASSERT_TRUE(failure);
     EXPECT_EQ(failure->number, fault_subscript);
     EXPECT_TRUE(view.box.messages.empty()); // this one has no message

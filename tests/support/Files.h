@@ -12,7 +12,9 @@
 #include <string_view>
 #include <system_error>
 
+#include "calc/RuntimeFault.h"
 #include "calc/Text.h"
+#include "data/ProjectFile.h"
 #include "tests/support/Calculation.h"
 
 namespace tarnvik::test {
@@ -54,6 +56,19 @@ inline std::string Read_file(const std::filesystem::path& path) {
     std::ifstream file{path, std::ios::binary};
     EXPECT_TRUE(file.good()) << path;
     return {std::istreambuf_iterator<char>{file}, {}};
+}
+
+// Reads and applies a project, failures told in the box, as the window does. The number of the failure, 0 without one.
+inline int Open_project(ConnectionState& s, const std::filesystem::path& path, MessageBox& box) {
+    try {
+        Project_record record;
+        Load_project(s, record, path);
+        Apply_project(s, record);
+        return 0;
+    } catch (const RuntimeFault& fault) {
+        Open_project_failed(s, fault.number, box);
+        return fault.number;
+    }
 }
 
 // The decimal sign of the regional settings while it lives; "." again afterwards.

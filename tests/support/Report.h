@@ -15,6 +15,7 @@
 #include "report/Recorder.h"
 #include "report/Sections.h"
 #include "tests/support/Calculation.h"
+#include "tests/support/Lines.h"
 #include "tests/support/RecordingMessageBox.h"
 
 namespace tarnvik::test {

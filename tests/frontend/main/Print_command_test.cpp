@@ -30,7 +30,7 @@ TEST_F(PrintCommand, prints_the_report_of_the_state_and_ends_the_job_twice) {
     PrintReport(expected, s, {window->Work().Shown().Pic_forbindelse, window->Work().Shown().Pic_av_bolter},
                 clock.Now(), texts);
     expected.EndDoc();
-    EXPECT_EQ(printer.jobs[0]->Lines(), expected.Lines());
+    EXPECT_EQ(Lines_of(*printer.jobs[0]), Lines_of(expected));
     EXPECT_TRUE(boxes.messages.empty());
     EXPECT_EQ(unloaded, 0);
     EXPECT_TRUE(window->isVisible());
@@ -59,7 +59,7 @@ TEST_P(PrintFailure, is_told_as_a_cancelled_dialog_and_closes_the_window) {
     EXPECT_EQ(unloaded, 1);
     EXPECT_FALSE(window->isVisible());
     for (const auto& job : printer.jobs) {
-        for (const std::string& line : job->Lines()) {
+        for (const std::string& line : Lines_of(*job)) {
             if (printer.answer == Reply::fails_at_print) {
                 EXPECT_FALSE(line.ends_with("EndDoc")) << "a document begun is not ended";
             }

@@ -1,5 +1,7 @@
 #include "calc/Connector.h"
 
+#include <algorithm>
+
 #include "calc/Arithmetic.h"
 
 namespace tarnvik {
@@ -36,25 +38,15 @@ constexpr std::size_t Column_of(const BoltRow& bolt) {
     return column;
 }
 
-constexpr bool Every_bolt_has_a_column() {
-    for (const BoltRow& bolt : bolt_table) {
-        if (Column_of(bolt) == bolt_diameters.size()) {
-            return false;
-        }
-    }
-    return true;
-}
-static_assert(Every_bolt_has_a_column(), "a bolt of the table says with which connectors it fits");
+static_assert(std::all_of(bolt_table.begin(), bolt_table.end(),
+                          [](const BoltRow& bolt) { return Column_of(bolt) < bolt_diameters.size(); }),
+              "a bolt of the table says with which connectors it fits");
 
 constexpr bool Every_pair_is_stated() {
     for (std::size_t i = 0; i < connector_table.size(); ++i) {
-        if (connector_fits[i].dc != connector_table[i].dc) {
+        const ConnectorFits& row = connector_fits[i];
+        if (row.dc != connector_table[i].dc || std::count(row.bolts.begin(), row.bolts.end(), unstated) > 0) {
             return false;
-        }
-        for (const Fit fit : connector_fits[i].bolts) {
-            if (fit == unstated) {
-                return false;
-            }
         }
     }
     return true;

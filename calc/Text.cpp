@@ -213,7 +213,7 @@ ShortText Format(float value, std::string_view picture) {
     const double magnitude = std::fabs(static_cast<double>(value));
     const bool whole_only = magnitude >= 0x1p40; // a float as large has no broken part that could be rounded
     const std::size_t broken = whole_only ? 0 : wanted.decimals;
-    Digits buffer{};
+    Digits buffer; // filled as far as it is read
     const std::string_view number = Rounded_digits(magnitude, broken, buffer);
     const bool zero = number == "0";
 

@@ -57,7 +57,9 @@ inline double Square(double value) {
     return value * value;
 }
 
-// The smallest of the first n of four values, n from 2 to 4; values beyond n are ignored.
+// The smallest and the largest of the first n of four values, n from 2 to 4; values beyond n are ignored. They serve
+// every minimum and maximum of the calculation.
 float MinVal(int n, float x1, float x2, float x3 = 0.0F, float x4 = 0.0F);
+float MaxVal(int n, float x1, float x2, float x3 = 0.0F, float x4 = 0.0F);
 
 } // namespace tarnvik

@@ -32,9 +32,6 @@ QFileDialog::Options No_options() {
     return {};
 }
 
-constexpr int flag_overwrite_prompt = 2;
-constexpr int flag_no_selection = 4;
-
 } // namespace
 
 void QtBoxService::Show_then(std::string_view text, int style, std::function<void()> then) {
@@ -90,7 +87,7 @@ std::optional<std::string> QtFileDialogs::Save(const FileRequest& request) {
     dialog.setFileMode(QFileDialog::AnyFile);
     dialog.setNameFilter(Q("Tarnvik (" + request.filter + ")"));
     dialog.setDefaultSuffix(Q(request.default_extension));
-    dialog.setOption(QFileDialog::DontConfirmOverwrite, (request.flags & flag_overwrite_prompt) == 0);
+    dialog.setOption(QFileDialog::DontConfirmOverwrite, (request.flags & prompt_on_overwrite) == 0);
     const QFileInfo start{Q(request.file_name)};
     dialog.setDirectory(start.absoluteDir());
     dialog.selectFile(start.fileName());
@@ -106,7 +103,7 @@ std::unique_ptr<PrintTarget> QtPrinterService::Show_printer(const PrinterRequest
     printer->setDocName(Q(request.document));
     QPrintDialog dialog{printer.get(), QApplication::activeWindow()};
     dialog.setObjectName(QStringLiteral("PrinterDialog"));
-    dialog.setOption(QPrintDialog::PrintSelection, (request.flags & flag_no_selection) == 0);
+    dialog.setOption(QPrintDialog::PrintSelection, (request.flags & no_selection) == 0);
     // The report is always printed whole. The box for printing to a file, which the flags hide, is the entry "Print to
     // File (PDF)" of the list of printers here: it stays, as the printer of a machine without one.
     dialog.setOption(QPrintDialog::PrintPageRange, false);

@@ -105,29 +105,31 @@ TEST(Arithmetic, a_fault_tells_where_it_happened) {
     }
 }
 
-TEST(Arithmetic, minimum_looks_at_the_first_n_values_only) {
+TEST(Arithmetic, minimum_and_maximum_look_at_the_first_n_values_only) {
     struct Row {
         const char* name;
         int n;
-        float x1, x2, x3, x4, least;
+        float x1, x2, x3, x4, least, most;
     };
     // clang-format off
     const Row rows[] = {
-        {"two, the rest ignored",    2, 5.0F,  7.0F,  -9.0F, 90.0F, 5.0F},
-        {"two, second is least",     2, 7.0F,  5.0F,  -9.0F, 90.0F, 5.0F},
-        {"three, third is least",    3, 7.0F,  5.0F,  1.0F,  -9.0F, 1.0F},
-        {"three, third is most",     3, 5.0F,  7.0F,  9.0F,  90.0F, 5.0F},
-        {"four, fourth is least",    4, 3.0F,  2.0F,  1.0F,  0.0F,  0.0F},
-        {"four, fourth is most",     4, 0.0F,  1.0F,  2.0F,  3.0F,  0.0F},
-        {"four, first is least",     4, -1.0F, 1.0F,  2.0F,  3.0F,  -1.0F},
-        {"all equal",                4, 2.5F,  2.5F,  2.5F,  2.5F,  2.5F},
+        {"two, the rest ignored",    2, 5.0F,  7.0F,  -9.0F, 90.0F, 5.0F,  7.0F},
+        {"two, second is least",     2, 7.0F,  5.0F,  -9.0F, 90.0F, 5.0F,  7.0F},
+        {"three, third is least",    3, 7.0F,  5.0F,  1.0F,  -9.0F, 1.0F,  7.0F},
+        {"three, third is most",     3, 5.0F,  7.0F,  9.0F,  90.0F, 5.0F,  9.0F},
+        {"four, fourth is least",    4, 3.0F,  2.0F,  1.0F,  0.0F,  0.0F,  3.0F},
+        {"four, fourth is most",     4, 0.0F,  1.0F,  2.0F,  3.0F,  0.0F,  3.0F},
+        {"four, first is least",     4, -1.0F, 1.0F,  2.0F,  3.0F,  -1.0F, 3.0F},
+        {"all equal",                4, 2.5F,  2.5F,  2.5F,  2.5F,  2.5F,  2.5F},
     };
     // clang-format on
     for (const Row& row : rows) {
         SCOPED_TRACE(row.name);
         EXPECT_EQ(MinVal(row.n, row.x1, row.x2, row.x3, row.x4), row.least);
+        EXPECT_EQ(MaxVal(row.n, row.x1, row.x2, row.x3, row.x4), row.most);
     }
     EXPECT_EQ(MinVal(2, 4.0F, 3.0F), 3.0F); // the zeros that stand for the missing values take no part
+    EXPECT_EQ(MaxVal(2, -4.0F, -3.0F), -3.0F);
 }
 
 } // namespace

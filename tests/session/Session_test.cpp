@@ -4,6 +4,7 @@
 
 #include "report/Recorder.h"
 #include "tests/support/Files.h"
+#include "tests/support/Lines.h"
 #include "tests/support/RecordingView.h"
 
 namespace tarnvik::test {
@@ -154,7 +155,7 @@ TEST_F(SessionTest, row_texts_of_the_report_outlive_a_print) {
     session.First_pass();
     Recorder again;
     session.Print(again, {"", ""});
-    EXPECT_NE(first.Lines(), again.Lines());
+    EXPECT_NE(Lines_of(first), Lines_of(again));
 }
 
 } // namespace

@@ -12,6 +12,7 @@ StartReport Session::Start(const std::filesystem::path& folder, std::optional<st
 PassResult Session::Pass(Showing showing) {
     view_.Before_pass();
     PassResult result = Run_pass(s_, showing == Showing::screen ? &screen_ : nullptr, view_.Box());
+    results_.Note_pass(s_, result);
     view_.After_pass();
     return result;
 }
@@ -36,6 +37,7 @@ void Session::Recalculate() {
 
 std::optional<RuntimeFault> Session::Open_project(const std::string& path, const std::function<void()>& show) {
     std::optional<RuntimeFault> failure;
+    results_.Forget_splitting(); // a typed he comes with the file, its check does not
     try {
         Project_record record;
         Load_project(s_, record, path);

@@ -18,6 +18,7 @@
 #include "ports/MessageBox.h"
 #include "ports/PrintTarget.h"
 #include "report/PrintReport.h"
+#include "session/Standing.h"
 
 namespace tarnvik {
 
@@ -52,6 +53,10 @@ public:
     [[nodiscard]] ConnectionState& State() { return s_; }
     [[nodiscard]] const ConnectionState& State() const { return s_; }
     [[nodiscard]] Screen& Shown() { return screen_; }
+
+    // Whether the results belong to the inputs.
+    [[nodiscard]] Standing& Results() { return results_; }
+    [[nodiscard]] const Standing& Results() const { return results_; }
 
     // The program's folder, from the start on.
     [[nodiscard]] const std::filesystem::path& Folder() const { return folder_; }
@@ -93,6 +98,7 @@ private:
     SessionView& view_;
     std::filesystem::path folder_;
     Screen screen_;
+    Standing results_;
     SpacingTexts report_texts_; // outlive a print
 };
 

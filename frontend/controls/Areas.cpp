@@ -15,6 +15,18 @@
 
 namespace tarnvik {
 
+namespace {
+
+// The ring of the one in force.
+void Draw_chosen(QPainter& painter, const QWidget& button) {
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen{button.palette().color(QPalette::Highlight), Scaled(2, button.logicalDpiX()) * 1.0});
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRoundedRect(QRectF{button.rect()}.adjusted(1.5, 1.5, -1.5, -1.5), 3.0, 3.0);
+}
+
+} // namespace
+
 void PictureButton::Set_picture(const std::string& key) {
     key_ = key;
     update();
@@ -41,16 +53,28 @@ void PictureButton::paintEvent(QPaintEvent* /*event*/) {
         Draw_text(painter, text(), font(), room, Qt::AlignCenter);
     }
     if (chosen_) {
-        painter.setRenderHint(QPainter::Antialiasing);
-        painter.setPen(QPen{palette().color(QPalette::Highlight), Scaled(2, logicalDpiX()) * 1.0});
-        painter.setBrush(Qt::NoBrush);
-        painter.drawRoundedRect(QRectF{rect()}.adjusted(1.5, 1.5, -1.5, -1.5), 3.0, 3.0);
+        Draw_chosen(painter, *this);
     }
     if (hasFocus()) {
         QStyleOptionFocusRect focus;
         focus.initFrom(this);
         focus.rect = rect().adjusted(3, 3, -3, -3);
         style()->drawPrimitive(QStyle::PE_FrameFocusRect, &focus, &painter, this);
+    }
+}
+
+void ChoiceButton::Set_pressed_look(bool chosen) {
+    if (chosen_ != chosen) {
+        chosen_ = chosen;
+        update();
+    }
+}
+
+void ChoiceButton::paintEvent(QPaintEvent* event) {
+    QPushButton::paintEvent(event);
+    if (chosen_) {
+        QPainter painter{this};
+        Draw_chosen(painter, *this);
     }
 }
 

@@ -3,6 +3,7 @@
 
 #include <QAbstractButton>
 #include <QFont>
+#include <QPushButton>
 #include <QRectF>
 #include <QWidget>
 
@@ -29,6 +30,22 @@ protected:
 
 private:
     std::string key_;
+    bool chosen_{};
+};
+
+// A button that is the one of several in force, or not.
+class ChoiceButton : public QPushButton {
+    Q_OBJECT
+
+public:
+    using QPushButton::QPushButton;
+    void Set_pressed_look(bool chosen);
+    [[nodiscard]] bool Pressed_look() const { return chosen_; }
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
     bool chosen_{};
 };
 

@@ -63,6 +63,13 @@ void Label::paintEvent(QPaintEvent* /*event*/) {
     Draw_text(painter, text(), font(), QRectF{rect()}, alignment());
 }
 
+void Mark::paintEvent(QPaintEvent* event) {
+    const SetText set = Set_text(text(), font(), QSizeF{size()});
+    const double covered = set.width * set.narrowing + Scaled(3, logicalDpiX());
+    QPainter{this}.fillRect(QRectF{0.0, 0.0, covered, static_cast<double>(height())}, palette().window());
+    Label::paintEvent(event);
+}
+
 QRectF Option::Text_room() const {
     const int indicator = style()->pixelMetric(QStyle::PM_ExclusiveIndicatorWidth, nullptr, this) +
                           style()->pixelMetric(QStyle::PM_RadioButtonLabelSpacing, nullptr, this);

@@ -36,6 +36,17 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 };
 
+// A label over the border of a frame: what its text covers is cleared of the border.
+class Mark : public Label {
+    Q_OBJECT
+
+public:
+    using Label::Label;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+};
+
 // An option button whose text may take two lines.
 class Option : public QRadioButton {
     Q_OBJECT

@@ -35,6 +35,11 @@ frmDetailed::frmDetailed(QWidget& window, const Session& session)
         equation->Set_picture(place.key);
         equation->setVisible(!place.double_shear);
     }
+    auto* current = new Label{this};
+    current->setObjectName(QStringLiteral("Lbl_current"));
+    QPalette red = current->palette();
+    red.setColor(QPalette::WindowText, To_colour(colour_fails));
+    current->setPalette(red);
     auto* ok = new QPushButton{QStringLiteral("OK"), this};
     ok->setObjectName(QStringLiteral("Cmd_ok"));
     ok->setDefault(true);
@@ -62,9 +67,22 @@ void frmDetailed::Lay_out() {
                                  place.height * area->height()}
                               .toRect());
     }
-    findChild<QPushButton*>(QStringLiteral("Cmd_ok"))
-        ->setGeometry((width() - Scaled(72, dpi)) / 2, frame->y() + frame->height() + Scaled(below_frame, dpi),
-                      Scaled(72, dpi), Scaled(26, dpi));
+    const QRect ok{(width() - Scaled(72, dpi)) / 2, frame->y() + frame->height() + Scaled(below_frame, dpi),
+                   Scaled(72, dpi), Scaled(26, dpi)};
+    findChild<QPushButton*>(QStringLiteral("Cmd_ok"))->setGeometry(ok);
+    findChild<Label*>(QStringLiteral("Lbl_current"))
+        ->setGeometry(frame->x(), ok.y(), ok.x() - frame->x() - Scaled(8, dpi), ok.height());
+}
+
+// The program's own: what is shown may belong to former inputs.
+void frmDetailed::Show_standing() {
+    const ConnectionState& s = session_.State();
+    const bool english = Is_english(s);
+    std::string text = session_.Results().Not_current(s, english);
+    if (text.empty() && !session_.Results().Splitting_current(s)) {
+        text = english ? "Splitting not checked" : "Tverrstrekk ikke kontrollert";
+    }
+    findChild<Label*>(QStringLiteral("Lbl_current"))->setText(Q(text));
 }
 
 void frmDetailed::showEvent(QShowEvent* event) {
@@ -72,6 +90,7 @@ void frmDetailed::showEvent(QShowEvent* event) {
     Painting painting = Paint_detailed(session_.State());
     setWindowTitle(Q(painting.caption));
     findChild<PaintedArea*>(QStringLiteral("Pic_detailed"))->Set_painting(std::move(painting));
+    Show_standing();
     QDialog::showEvent(event);
 }
 

@@ -21,6 +21,7 @@ protected:
 
 private:
     void Lay_out();
+    void Show_standing();
 
     QWidget& window_;
     const Session& session_;

@@ -43,6 +43,10 @@ void BoxEditing::Enter_box(TextBox& box) {
 void BoxEditing::Refuse(TextBox& box, std::string_view text, int style, bool give_back) {
     refused_ = &box;
     told_ = !text.empty();
+    if (!give_back) {
+        left_ = {&box, std::string{text}, style};
+    }
+    emit Refused();
     const auto after = [this, give_back] { End_refusal(give_back); };
     if (told_) {
         boxes_.Show_then(text, style, after);
@@ -75,12 +79,29 @@ void BoxEditing::Input_error(TextBox& box, int number) {
     Refuse(box, text, box_exclamation, true);
 }
 
-bool BoxEditing::Leave_focused_box() {
+bool BoxEditing::Ready_for_command() {
     if (auto* box = dynamic_cast<TextBox*>(window_.focusWidget())) {
         box->clearFocus();
-        return !(Refusing() && told_);
+        if (Refusing() && told_) {
+            return false;
+        }
+    }
+    if (!left_.box.isNull() && left_.box->isEnabled() && left_.box->Back() == colour_green_box) {
+        Refuse(*left_.box, left_.text, left_.style, true);
+        return false;
     }
     return true;
+}
+
+void BoxEditing::Carry_out(const std::function<void()>& command) {
+    const QPointer<QWidget> box{dynamic_cast<TextBox*>(window_.focusWidget())};
+    if (!Ready_for_command()) {
+        return;
+    }
+    command();
+    if (!box.isNull() && box->isEnabled() && window_.focusWidget() == nullptr) {
+        box->setFocus(Qt::OtherFocusReason);
+    }
 }
 
 bool BoxEditing::eventFilter(QObject* watched, QEvent* event) {

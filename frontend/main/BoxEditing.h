@@ -5,6 +5,7 @@
 #include <QPointer>
 
 #include <functional>
+#include <string>
 #include <string_view>
 
 #include "calc/GlobalParameter.h"
@@ -27,9 +28,16 @@ public:
     void Refuse(TextBox& box, std::string_view text, int style, bool give_back) override;
     void Input_error(TextBox& box, int number) override;
 
-    // Leaves the box in editing, as a command of the window does before it acts. False where that was refused with a
-    // message: the command is not carried out.
-    bool Leave_focused_box();
+    // Before a command that uses the inputs: leaves the box in editing. False where that was refused with a message, or
+    // where another box stands refused, whose message comes again: the command is not carried out.
+    bool Ready_for_command();
+
+    // Carries the command out where the boxes are ready for it; the focus goes back to the box that was left.
+    void Carry_out(const std::function<void()>& command);
+
+signals:
+    // A value was refused. It stays in the state.
+    void Refused();
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -43,6 +51,14 @@ private:
     QPointer<TextBox> refused_;
     bool told_{};                      // the refusal has a message
     std::function<void()> on_release_; // waits for the mouse button
+
+    // A refused box that let the focus go: it stands refused as long as it is green.
+    struct Left {
+        QPointer<TextBox> box;
+        std::string text;
+        int style{};
+    };
+    Left left_;
 };
 
 } // namespace tarnvik

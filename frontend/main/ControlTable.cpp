@@ -90,8 +90,8 @@ constexpr std::array control_rows{
     ControlRow{"Opt_trykk",               option,         "Fra_last",               "",            0, 0, 86, 20},
     ControlRow{"Opt_strekk",              option,         "Fra_last",               "",            0, 0, 80, 20},
     ControlRow{"Fra_bolt_alt",            frame,          "fra_input",              "",            0, 0, 0, 0},
-    ControlRow{"Cmd_boltetype(0)",        button,         "Fra_bolt_alt",           "Alt. 1",      16, 21, 70, 26},
-    ControlRow{"Cmd_boltetype(1)",        button,         "Fra_bolt_alt",           "Alt. 2",      104, 21, 70, 26},
+    ControlRow{"Cmd_boltetype(0)",        choice_button,"Fra_bolt_alt",           "Alt. 1",      16, 21, 70, 26},
+    ControlRow{"Cmd_boltetype(1)",        choice_button,"Fra_bolt_alt",           "Alt. 2",      104, 21, 70, 26},
     ControlRow{"Fra_skive",               frame,          "fra_input",              "",            0, 0, 0, 0},
     ControlRow{"Lbl_skive_diameter1",     label,          "Fra_skive",              "Diameter=",   10, 0, 56, line},
     ControlRow{"Lbl_skive_diameter2",     label,          "Fra_skive",              "",            74, 0, 50, line},
@@ -146,6 +146,12 @@ constexpr std::array control_rows{
     ControlRow{"Pic_av_bulldog",          picture,        "Fra_av_bulldog",         "",            8, 0, 0, 0},
     ControlRow{"Fra_av_bulldog_verdier",  frame,          "Fra_av_bulldog",         "",            0, 0, 0, 0},
     ControlRow{"Pic_av_bulldog_dif",      table,          "Fra_av_bulldog_verdier", "",            0, 0, 0, 0},
+
+    // The program's own, placed by frontend/main/Marks.cpp.
+    ControlRow{"Lbl_current",             mark,           "Fra_results",            "",            0, 0, 0, 0},
+    ControlRow{"Lbl_verdict",             mark,           "Fra_results",            "",            0, 0, 0, 0},
+    ControlRow{"Lbl_sign",                mark,           "Fra_last",               "",            0, 0, 0, 0},
+    ControlRow{"Lbl_tverr_current",       mark,           "Pic_tverr_brudd",        "",            0, 0, 0, 0},
 };
 
 constexpr std::array buddies{

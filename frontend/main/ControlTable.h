@@ -10,11 +10,13 @@ namespace tarnvik {
 enum class Kind : std::uint8_t {
     frame,
     label,
+    mark,
     text_box,
     list,
     option,
     check,
     button,
+    choice_button,
     picture_button,
     picture,
     table,

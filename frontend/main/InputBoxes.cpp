@@ -134,6 +134,7 @@ void InputBoxes::Leave_man_he() {
     if (s_.Loading || editing_.Refusing()) {
         return;
     }
+    session_.Results().Forget_splitting();
     try {
         s_.man_he = Str_to_num(U(man_he_.text()));
         if (s_.man_he <= 0.0F) {
@@ -154,6 +155,8 @@ void InputBoxes::Leave_man_he() {
         // he = h is accepted although the check divides by zero there: a quiet return with the old results.
         if (fault.number != fault_division_by_zero) {
             editing_.Input_error(man_he_, fault.number);
+        } else {
+            emit Splitting_checked();
         }
     }
 }
@@ -165,6 +168,8 @@ void InputBoxes::Check_manual_he(float h, float b) {
     screen.controls = {};
     Tverr_brudd(s_, h, s_.he, b, ScreenWriter{&screen});
     view_.Show(screen);
+    session_.Results().Note_splitting(s_);
+    emit Splitting_checked();
 }
 
 void InputBoxes::Read_free_entry() const {

@@ -30,6 +30,10 @@ public:
     void Show_sections() const;
     void Show_manual_he() const;
 
+signals:
+    // The splitting check was made on a typed he, or could not be.
+    void Splitting_checked();
+
 private:
     struct NumberBox;
     static const NumberBox number_boxes[6];

@@ -18,15 +18,15 @@ namespace tarnvik {
 
 namespace {
 
-Label* New_label(const QString& caption, QWidget* parent) {
-    auto* made = new Label{caption, parent};
+template <class Kept> Kept* New_label(const QString& caption, QWidget* parent) {
+    auto* made = new Kept{caption, parent};
     made->setTextFormat(Qt::PlainText);
     made->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     return made;
 }
 
-QPushButton* New_button(const QString& caption, QWidget* parent) {
-    auto* made = new QPushButton{caption, parent};
+template <class Button> Button* New_button(const QString& caption, QWidget* parent) {
+    auto* made = new Button{caption, parent};
     made->setAutoDefault(false);
     return made;
 }
@@ -44,7 +44,9 @@ QWidget* New_control(const ControlRow& row, QWidget* parent) {
     case Kind::frame:
         return new Frame{caption, parent};
     case Kind::label:
-        return New_label(caption, parent);
+        return New_label<Label>(caption, parent);
+    case Kind::mark:
+        return New_label<Mark>(caption, parent);
     case Kind::text_box:
         return new TextBox{parent};
     case Kind::list:
@@ -54,7 +56,9 @@ QWidget* New_control(const ControlRow& row, QWidget* parent) {
     case Kind::check:
         return new QCheckBox{caption, parent};
     case Kind::button:
-        return New_button(caption, parent);
+        return New_button<QPushButton>(caption, parent);
+    case Kind::choice_button:
+        return New_button<ChoiceButton>(caption, parent);
     case Kind::picture_button:
         return New_picture_button(caption, parent);
     case Kind::picture:

@@ -13,6 +13,7 @@
 #include "frontend/main/ControlTable.h"
 #include "frontend/main/Languages.h"
 #include "frontend/main/Layout.h"
+#include "frontend/main/Marks.h"
 #include "frontend/painting/Texts.h"
 
 namespace tarnvik {
@@ -115,6 +116,7 @@ void WritefrmInput1(QMainWindow& window, const MainControls& controls) {
     const Box inside{0.0, 0.0, window.width() * twips_per_inch / window.logicalDpiX(),
                      window.height() * twips_per_inch / window.logicalDpiY()};
     Apply_layout(boxes, inside, Least_height, &controls);
+    Place_marks(boxes, window.font(), window.logicalDpiX());
     Set_geometry(window, controls, boxes);
     Cover_sketches(window, controls);
 }

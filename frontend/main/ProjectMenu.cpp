@@ -10,9 +10,9 @@
 
 namespace tarnvik {
 
-ProjectMenu::ProjectMenu(const MainControls& controls, Session& session, const Services& services,
+ProjectMenu::ProjectMenu(const MainControls& controls, Session& session, const Services& services, BoxEditing& editing,
                          const InputBoxes& boxes, std::function<void()> show_project)
-    : session_(session), services_(services), boxes_(boxes), show_project_(std::move(show_project)) {
+    : session_(session), services_(services), editing_(editing), boxes_(boxes), show_project_(std::move(show_project)) {
     for (int i = 1; i <= 3; ++i) {
         connect(&controls.Find<QAction>("mnuFileItem(" + std::to_string(i) + ")"), &QAction::triggered, this,
                 [this, i] { File_menu(i); });
@@ -42,10 +42,10 @@ void ProjectMenu::File_menu(int Index) {
         Open();
         break;
     case 2:
-        Save();
+        editing_.Carry_out([this] { Save(); });
         break;
     case 3:
-        Save_as();
+        editing_.Carry_out([this] { Save_as(); });
         break;
     default:
         break;

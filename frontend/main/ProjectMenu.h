@@ -22,8 +22,11 @@ class ProjectMenu : public QObject {
 
 public:
     // `show_project` brings an opened project onto the controls; it may throw RuntimeFault.
-    ProjectMenu(const MainControls& controls, Session& session, const Services& services, const InputBoxes& boxes,
-                std::function<void()> show_project);
+    ProjectMenu(const MainControls& controls, Session& session, const Services& services, BoxEditing& editing,
+                const InputBoxes& boxes, std::function<void()> show_project);
+
+    // Opens the project of that path.
+    void Open_path(const std::string& path);
 
     // The last files from the settings store onto the menu.
     void Load_recent();
@@ -39,10 +42,10 @@ private:
     void Save();
     void Save_as();
     void Recent_open(int Index);
-    void Open_path(const std::string& path);
 
     Session& session_;
     Services services_;
+    BoxEditing& editing_;
     const InputBoxes& boxes_;
     std::function<void()> show_project_;
     RecentMenu recent_;

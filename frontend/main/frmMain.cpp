@@ -32,9 +32,11 @@ frmMain::frmMain(ConnectionState& state, const Services& services, std::filesyst
     : s_(state), services_(services), app_path_(std::move(App_path)), session_(state, *this), controls_(Prepared()),
       view_(controls_, state), editing_(*this, state, services_.boxes), boxes_(controls_, session_, editing_, view_),
       lists_(controls_, session_), selections_(controls_, session_, boxes_, lists_),
-      projects_(controls_, session_, services_, boxes_, [this] { Show_project(); }),
-      classes_(std::make_unique<Frm_tarn_vik_fak_klass>(*this, session_)) {
+      projects_(controls_, session_, services_, editing_, boxes_, [this] { Show_project(); }),
+      marks_(controls_, session_), classes_(std::make_unique<Frm_tarn_vik_fak_klass>(*this, session_)) {
     connect(&projects_, &ProjectMenu::Named, this, &frmMain::Set_caption);
+    connect(&editing_, &BoxEditing::Refused, &marks_, &Marks::Show);
+    connect(&boxes_, &InputBoxes::Splitting_checked, &marks_, &Marks::Show);
     Connect_windows();
 }
 
@@ -70,6 +72,10 @@ void frmMain::Load() {
     }
 }
 
+void frmMain::Open(const std::string& path) {
+    projects_.Open_path(path);
+}
+
 void frmMain::Tell_missing_setup() {
     services_.boxes.Show(
         std::string{setup_file_read} + " in " + app_path_.string() +
@@ -93,6 +99,7 @@ void frmMain::Before_pass() {
 
 void frmMain::After_pass() {
     view_.Show(session_.Shown());
+    marks_.Show();
     emit Calculated();
 }
 
@@ -159,7 +166,7 @@ void frmMain::Connect_windows() {
         frmAbout window{*this, Is_english(s_), about_, services_.opener, services_.boxes};
         Show_modal(window);
     });
-    Connect_action("mnuprint", [this] { Print_report(); });
+    Connect_action("mnuprint", [this] { editing_.Carry_out([this] { Print_report(); }); });
     Connect_action("mmuTheory", [this] { Open_manual(); });
 }
 
@@ -173,7 +180,7 @@ void frmMain::Show_setup() {
 }
 
 void frmMain::Show_modal(QDialog& window) {
-    if (!editing_.Leave_focused_box()) {
+    if (!editing_.Ready_for_command()) {
         return;
     }
     activated_ = false;

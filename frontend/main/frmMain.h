@@ -16,6 +16,7 @@
 #include "frontend/main/InputBoxes.h"
 #include "frontend/main/Lists.h"
 #include "frontend/main/MainControls.h"
+#include "frontend/main/Marks.h"
 #include "frontend/main/ProjectMenu.h"
 #include "frontend/main/ScreenView.h"
 #include "frontend/main/Selections.h"
@@ -39,6 +40,9 @@ public:
     // The load step: reads the files, fills and lays out the controls, shows the window, runs the first pass.
     // Errors: throws DataFileError and RuntimeFault: the program cannot start.
     void Load();
+
+    // Opens a project as the File menu does.
+    void Open(const std::string& path);
 
     // What the window shows, and the editing of its boxes.
     [[nodiscard]] Session& Work() { return session_; }
@@ -90,6 +94,7 @@ private:
     Lists lists_;
     Selections selections_;
     ProjectMenu projects_;
+    Marks marks_;
     std::unique_ptr<Frm_tarn_vik_fak_klass> classes_;
     AboutTexts about_;
     std::string title_prefix_;

@@ -1,0 +1,45 @@
+#include "frontend/main/CommandLine.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+#include "tests/support/Window.h"
+
+namespace tarnvik::test {
+namespace {
+
+TEST(CommandLine, takes_one_project_or_none) {
+    EXPECT_EQ(Parse_command_line({}).project, "");
+    EXPECT_EQ(Parse_command_line({"/tmp/a.tnvik"}).project, "/tmp/a.tnvik");
+    EXPECT_EQ(Parse_command_line({"a b.tnvik"}).project, (std::filesystem::current_path() / "a b.tnvik").string());
+    EXPECT_EQ(Parse_command_line({"--", "-a.tnvik"}).project, (std::filesystem::current_path() / "-a.tnvik").string());
+    EXPECT_NE(Parse_command_line({"a.tnvik", "b.tnvik"}).error, "");
+    EXPECT_NE(Parse_command_line({""}).error, "");
+}
+
+TEST(CommandLine, answers_help_and_version_and_refuses_the_rest) {
+    EXPECT_TRUE(Parse_command_line({"--help"}).help);
+    EXPECT_TRUE(Parse_command_line({"--version"}).version);
+    EXPECT_EQ(Parse_command_line({"--wrong"}).error, "unknown option --wrong; see tarnvik --help");
+    EXPECT_NE(Parse_command_line({"-x"}).error, "");
+    EXPECT_NE(Command_line_help().find("tarnvik [PROJECT.tnvik]"), std::string::npos);
+}
+
+class OpenedProject : public WindowTest {};
+
+TEST_F(OpenedProject, a_project_of_the_command_line_opens_as_from_the_menu) {
+    Start();
+    dialogs.answer = (work / "joint.tnvik").string();
+    Enter_value("Txt_last", "7.5");
+    Menu("mnuFileItem(3)");
+    Enter_value("Txt_last", "1");
+    window->Open((work / "joint.tnvik").string());
+    Settle();
+    EXPECT_EQ(s.P, 7.5F);
+    EXPECT_EQ(Caption(), "Tarnvik: " + (work / "joint.tnvik").string());
+    EXPECT_TRUE(boxes.messages.empty());
+}
+
+} // namespace
+} // namespace tarnvik::test

@@ -76,6 +76,13 @@ def spacings():
 RESULTS = tuple(n for n in R.STATE_NAMES if n not in R.INPUTS and n not in R.SPACING_FLOATS + R.SPACING_TEXTS) + R.FREE_ENTRY
 
 
+def hashed(expect, s):
+    """The expected values of a line as the test of the passes hashes them: name=value, a float as its bits."""
+    values = dict(expect, spacing="%016x" % R.fnv1a64(R.canonical_spacing(s)))
+    values.update((n, "%08x" % R.bits(s[n]) if n in R.ALL_FLOATS else s[n]) for n in RESULTS)
+    return "".join("%s=%s\n" % (n, str(v).lower() if isinstance(v, bool) else v) for n, v in values.items())
+
+
 def sequence(rng, k):
     """The inputs of one line. Most lines stay inside what the window lets a user choose."""
     if k == 0:
@@ -87,7 +94,7 @@ def sequence(rng, k):
 
 def passes(count=3000, seed=19951):
     rng = random.Random(seed)
-    ends, cases, codes = {}, set(), set()
+    ends, cases, codes, shown = {}, set(), set(), []
     with open(os.path.join(OUT, "passes.jsonl"), "w", encoding="utf-8", newline="\n") as f:
         for k in range(count):
             steps = sequence(rng, k)
@@ -97,10 +104,12 @@ def passes(count=3000, seed=19951):
                 expect["fault"] = result["fault"]["number"]
             text = json.dumps(expect)[:-1] + ', "spacing": "%016x", ' % R.fnv1a64(R.canonical_spacing(s)) + R.json_state(s, RESULTS)[1:]
             f.write('{"set": %s, "expect": %s}\n' % (json.dumps(steps, ensure_ascii=False), text))
+            shown.append(hashed(expect, s))
             ends[result["end"]] = ends.get(result["end"], 0) + 1
             cases.add(s["Case_code"])
             codes.add(s["Con_code"])
     print("passes.jsonl:", ends, len(cases), "case codes,", len(codes), "connection codes (one of each may be blank)")
+    print("expected_values_hash: %016x" % R.fnv1a64("".join(shown)))
 
 
 def formula_line(f, name, given, state, wanted, call):

@@ -15,6 +15,7 @@ namespace tarnvik {
 namespace {
 
 constexpr std::uint32_t colour_unchecked = 0x005A9C; // a dark amber: neither holds nor fails
+constexpr double result_points = 7.5; // the title row is lower than a line of the window's text
 constexpr double sign_points = 7.0;
 
 void Say(QLabel& mark, const std::string& text, std::uint32_t colour, const std::string& tip) {
@@ -55,8 +56,8 @@ Marks::Marks(const MainControls& controls, const Session& session)
       tension_(controls.Find<QAbstractButton>("Opt_strekk")), arrangements_{
                                                                   &controls.Find<ChoiceButton>("Cmd_boltetype(0)"),
                                                                   &controls.Find<ChoiceButton>("Cmd_boltetype(1)")} {
-    Prepare(current_, 8.0, true);
-    Prepare(verdict_, 8.0, true);
+    Prepare(current_, result_points, true);
+    Prepare(verdict_, result_points, true);
     Prepare(sign_, sign_points, false);
     Prepare(splitting_, sign_points, false);
 }

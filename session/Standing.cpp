@@ -1,7 +1,7 @@
 #include "session/Standing.h"
 
 #include <algorithm>
-#include <cmath>
+#include <span>
 
 #include "calc/RuntimeFault.h"
 #include "calc/Splitting.h"
@@ -40,22 +40,23 @@ constexpr std::array<Words, check_count> check_words{{
 
 // A failure mode of single or of double shear.
 struct ModeRow {
-    bool double_shear;
     char mode;
     std::string_view equation;
     float ConnectionValues::*value;
 };
-constexpr std::array<ModeRow, 10> mode_rows{{
-    {false, 'a', "8.6 a", &ConnectionValues::Fv_a},
-    {false, 'b', "8.6 b", &ConnectionValues::Fv_b},
-    {false, 'c', "8.6 c", &ConnectionValues::Fv_c},
-    {false, 'd', "8.6 d", &ConnectionValues::Fv_d},
-    {false, 'e', "8.6 e", &ConnectionValues::Fv_e},
-    {false, 'f', "8.6 f", &ConnectionValues::Fv_f},
-    {true,  'g', "8.7 g", &ConnectionValues::Fv_g},
-    {true,  'h', "8.7 h", &ConnectionValues::Fv_h},
-    {true,  'j', "8.7 j", &ConnectionValues::Fv_j},
-    {true,  'k', "8.7 k", &ConnectionValues::Fv_k},
+constexpr std::array<ModeRow, 6> single_modes{{
+    {'a', "8.6 a", &ConnectionValues::Fv_a},
+    {'b', "8.6 b", &ConnectionValues::Fv_b},
+    {'c', "8.6 c", &ConnectionValues::Fv_c},
+    {'d', "8.6 d", &ConnectionValues::Fv_d},
+    {'e', "8.6 e", &ConnectionValues::Fv_e},
+    {'f', "8.6 f", &ConnectionValues::Fv_f},
+}};
+constexpr std::array<ModeRow, 4> double_modes{{
+    {'g', "8.7 g", &ConnectionValues::Fv_g},
+    {'h', "8.7 h", &ConnectionValues::Fv_h},
+    {'j', "8.7 j", &ConnectionValues::Fv_j},
+    {'k', "8.7 k", &ConnectionValues::Fv_k},
 }};
 
 // The cause of a fault in plain words: by the procedure that raised it where one has only one cause, else by its number.
@@ -153,14 +154,11 @@ std::string Verdict_details(const Verdict& verdict, const ConnectionValues& s, b
 }
 
 GoverningMode Governing_mode(const ConnectionValues& s) {
-    const bool double_shear = s.dob_1 || s.dob_2;
-    const ModeRow* least = nullptr;
-    for (const ModeRow& row : mode_rows) {
-        if (row.double_shear == double_shear && (least == nullptr || s.*row.value < s.*least->value)) {
-            least = &row;
-        }
-    }
-    return {least->mode, least->equation, s.*least->value};
+    const std::span<const ModeRow> rows = s.dob_1 || s.dob_2 ? std::span<const ModeRow>{double_modes} : single_modes;
+    const ModeRow& least = *std::min_element(rows.begin(), rows.end(), [&s](const ModeRow& one, const ModeRow& other) {
+        return s.*one.value < s.*other.value;
+    });
+    return {least.mode, least.equation, s.*least.value};
 }
 
 std::string_view Reason_of(const PassResult& result, const ConnectionValues& s, bool english) {

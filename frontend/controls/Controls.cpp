@@ -94,6 +94,15 @@ void Option::paintEvent(QPaintEvent* /*event*/) {
     }
 }
 
+void DialogButton::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+        event->accept();
+        click();
+        return;
+    }
+    QPushButton::keyPressEvent(event);
+}
+
 void TextBox::Set_back(std::uint32_t colour) {
     back_ = colour;
     QPalette changed = palette();

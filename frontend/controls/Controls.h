@@ -5,6 +5,7 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QRadioButton>
 
 #include <cstdint>
@@ -60,13 +61,27 @@ protected:
     [[nodiscard]] bool hitButton(const QPoint& at) const override { return rect().contains(at); }
 };
 
+// A button of a dialog: the Enter key presses it where it has the focus, and no other one.
+class DialogButton : public QPushButton {
+    Q_OBJECT
+
+public:
+    explicit DialogButton(const QString& caption, QWidget* parent = nullptr) : QPushButton(caption, parent) {
+        setAutoDefault(false);
+    }
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+};
+
 // A text box. It reports when the user enters and leaves it, but not a change of the active window, a menu or a list
 // that drops down: those do not leave the box.
 class TextBox : public QLineEdit {
     Q_OBJECT
 
 public:
-    using QLineEdit::QLineEdit;
+    // A text that is dropped on the box would change it without editing it: it is refused.
+    explicit TextBox(QWidget* parent = nullptr) : QLineEdit(parent) { setAcceptDrops(false); }
     using QWidget::focusNextChild; // for the Enter key
     void Set_back(std::uint32_t colour);
     [[nodiscard]] std::uint32_t Back() const { return back_; }

@@ -1,6 +1,5 @@
 #include "frontend/dialogs/Frm_tarn_vik_fak_klass.h"
 
-#include <QPushButton>
 #include <QShowEvent>
 
 #include <array>
@@ -36,9 +35,8 @@ Frm_tarn_vik_fak_klass::Frm_tarn_vik_fak_klass(QWidget& window, Session& session
     Add_help(*load, "Cmd_lastvar", "Explanation of the load-duration classes", "frm_tarn_vik_lastvarighet");
     Add_options(*service, "Opt_klimaklasse", service_classes, true, &ConnectionValues::Klima);
     Add_help(*service, "Cmd_klima", "Explanation of the service classes", "frm_tarn_vik_klima");
-    auto* ok = new QPushButton{QStringLiteral("OK"), this};
+    auto* ok = new DialogButton{QStringLiteral("OK"), this};
     ok->setObjectName(QStringLiteral("Cmd_ok"));
-    ok->setAutoDefault(false);
     ok->setAccessibleName(QStringLiteral("OK"));
     connect(ok, &QAbstractButton::clicked, this, &QDialog::accept);
 }
@@ -59,9 +57,8 @@ void Frm_tarn_vik_fak_klass::Add_options(Frame& frame, const char* name, int cou
 }
 
 void Frm_tarn_vik_fak_klass::Add_help(Frame& frame, const char* name, const char* accessible, const char* explanation) {
-    auto* help = new QPushButton{QStringLiteral("?"), &frame};
+    auto* help = new DialogButton{QStringLiteral("?"), &frame};
     help->setObjectName(QLatin1String(name));
-    help->setAutoDefault(false);
     help->setAccessibleName(QLatin1String(accessible));
     connect(help, &QAbstractButton::clicked, this, [this, explanation] {
         ExplanationForm window{window_, *this, session_, explanation};

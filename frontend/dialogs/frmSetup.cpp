@@ -100,9 +100,8 @@ frmSetup::frmSetup(QWidget& window, Session& session, Editing& editing)
 
 QPushButton* frmSetup::Add_button(QWidget& parent, const char* name, const QString& caption) const {
     const double dpi = logicalDpiX();
-    auto* made = new QPushButton{caption, &parent};
+    auto* made = new DialogButton{caption, &parent};
     made->setObjectName(QLatin1String(name));
-    made->setAutoDefault(false);
     made->setMinimumSize(Scaled(84, dpi), Scaled(24, dpi));
     return made;
 }

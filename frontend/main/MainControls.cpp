@@ -145,19 +145,19 @@ void MainControls::Build_menus(QMainWindow& window) {
     QMenu* file = top({"mnufile", "&File"});
     add(file, {"mnuFileItem(1)", "&Åpne"})->setShortcut(QKeySequence::Open);
     add(file, {"mnuFileItem(2)", "&Lagre"})->setShortcut(QKeySequence::Save);
-    add(file, {"mnuFileItem(3)", "&Lagre som"});
+    add(file, {"mnuFileItem(3)", "&Lagre som"})->setShortcut(QKeySequence{Qt::CTRL | Qt::SHIFT | Qt::Key_S});
     add(file, {"mnurecentfile(0)", ""})->setSeparator(true);
     add(file, {"mnurecentfile(1)", "&oldfile1"})->setVisible(false);
     add(file, {"mnurecentfile(2)", "&oldfile2"})->setVisible(false);
     add(file, {"mnurecentfile(3)", "&oldfile3"})->setVisible(false);
     add(file, {"mnurecentfile(4)", "-"})->setSeparator(true);
-    add(file, {"mnuexit", "&Exit"});
+    add(file, {"mnuexit", "&Exit"})->setShortcut(QKeySequence{Qt::CTRL | Qt::Key_Q});
     add(bar, {"mnusetup", "&Setup"});
     add(bar, {"mnuklasse", "&Klasser"});
     add(bar, {"mnuDatabase", "&Database"});
-    add(bar, {"mnuprint", "&Skriv ut"});
+    add(bar, {"mnuprint", "&Skriv ut"})->setShortcut(QKeySequence::Print);
     QMenu* help = top({"mnuhelp", "&Hjelp"});
-    add(help, {"mmuTheory", "&User && Theory Manual"});
+    add(help, {"mmuTheory", "&User && Theory Manual"})->setShortcut(QKeySequence::HelpContents);
     add(help, {"mnuabout", "&Om Tarnvik"});
 }
 

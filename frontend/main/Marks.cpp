@@ -15,7 +15,7 @@ namespace tarnvik {
 namespace {
 
 constexpr std::uint32_t colour_unchecked = 0x005A9C; // a dark amber: neither holds nor fails
-constexpr double result_points = 7.5; // the title row is lower than a line of the window's text
+constexpr double result_points = 7.5;                // the title row is lower than a line of the window's text
 constexpr double sign_points = 7.0;
 
 void Say(QLabel& mark, const std::string& text, std::uint32_t colour, const std::string& tip) {

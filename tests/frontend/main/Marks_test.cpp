@@ -1,4 +1,8 @@
-#include <QToolTip>
+#include <QAction>
+#include <QKeySequence>
+
+#include <utility>
+#include <vector>
 
 #include "tests/support/Window.h"
 
@@ -227,6 +231,49 @@ TEST_F(ResultMarks, a_box_that_stands_refused_elsewhere_keeps_a_command_from_act
     Enter_value("Txt_b1", "48");
     Menu("mnuprint");
     EXPECT_EQ(printer.asked.size(), 1U);
+}
+
+// Keys.
+
+TEST_F(ResultMarks, commands_have_shortcuts) {
+    Start();
+    for (const auto& [entry, key] :
+         std::vector<std::pair<const char*, QKeySequence::StandardKey>>{{"mnuFileItem(1)", QKeySequence::Open},
+                                                                        {"mnuFileItem(2)", QKeySequence::Save},
+                                                                        {"mnuprint", QKeySequence::Print},
+                                                                        {"mmuTheory", QKeySequence::HelpContents}}) {
+        EXPECT_EQ(Find<QAction>(entry).shortcut(), QKeySequence{key}) << entry;
+        EXPECT_FALSE(Find<QAction>(entry).shortcut().isEmpty()) << entry;
+    }
+    EXPECT_EQ(Find<QAction>("mnuFileItem(3)").shortcut(), QKeySequence{QStringLiteral("Ctrl+Shift+S")});
+    EXPECT_EQ(Find<QAction>("mnuexit").shortcut(), QKeySequence{QStringLiteral("Ctrl+Q")});
+}
+
+TEST_F(ResultMarks, enter_presses_the_focused_button_of_a_dialog_and_no_other) {
+    Start("Eng");
+    Menu("mnusetup", [this](QWidget& dialog) {
+        Find_in<QWidget>(dialog, "Cmd_nor").setFocus();
+        Key(Qt::Key_Return);
+        EXPECT_EQ(s.Lang, "Nor");
+        EXPECT_TRUE(dialog.isVisible());
+        Find_in<QWidget>(dialog, "Cmd_ok").setFocus();
+        Key(Qt::Key_Return);
+        EXPECT_FALSE(dialog.isVisible());
+    });
+    Menu("mnuklasse", [](QWidget& dialog) {
+        Find_in<QWidget>(dialog, "Opt_Lastvarighet(0)").setFocus();
+        Key(Qt::Key_Return);
+        EXPECT_TRUE(dialog.isVisible()); // an option is no button that Enter presses
+        Find_in<QWidget>(dialog, "Cmd_ok").setFocus();
+        Key(Qt::Key_Return);
+        EXPECT_FALSE(dialog.isVisible());
+    });
+}
+
+TEST_F(ResultMarks, a_text_dropped_on_a_box_is_refused) {
+    Start();
+    EXPECT_FALSE(Box("Txt_last").acceptDrops());
+    EXPECT_FALSE(Box("txtid").acceptDrops());
 }
 
 } // namespace

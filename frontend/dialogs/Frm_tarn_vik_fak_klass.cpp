@@ -94,8 +94,9 @@ void Frm_tarn_vik_fak_klass::Lay_out() {
     const double w = 0.34 * window_.width();
     const double h = 0.32 * window_.height();
     setFixedSize(static_cast<int>(std::lround(w)), static_cast<int>(std::lround(h)));
-    move(window_.frameGeometry().left() + (window_.frameGeometry().width() - width()) / 2,
-         window_.frameGeometry().top() + static_cast<int>(std::lround(0.01 * window_.height())));
+    // Inside to inside: the frame that the window manager will draw is not known yet, and it is the same for both.
+    setGeometry(window_.geometry().left() + (window_.width() - width()) / 2,
+                window_.geometry().top() + static_cast<int>(std::lround(0.01 * window_.height())), width(), height());
 
     const auto place = [](QWidget* widget, double left, double top, double wide, double high) {
         widget->setGeometry(QRectF{left, top, wide, high}.toRect());

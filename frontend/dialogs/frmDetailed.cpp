@@ -1,9 +1,13 @@
 #include "frontend/dialogs/frmDetailed.h"
 
+#include <QLabel>
 #include <QPushButton>
 #include <QShowEvent>
 
+#include <algorithm>
 #include <cmath>
+#include <string>
+#include <vector>
 
 #include "detail/Detailed_calc.h"
 #include "frontend/controls/Areas.h"
@@ -35,6 +39,8 @@ frmDetailed::frmDetailed(QWidget& window, const Session& session)
         equation->Set_picture(place.key);
         equation->setVisible(!place.double_shear);
     }
+    auto* governs = new QLabel{area};
+    governs->setObjectName(QStringLiteral("Lbl_governs"));
     auto* current = new Label{this};
     current->setObjectName(QStringLiteral("Lbl_current"));
     QPalette red = current->palette();
@@ -85,12 +91,32 @@ void frmDetailed::Show_standing() {
     findChild<Label*>(QStringLiteral("Lbl_current"))->setText(Q(text));
 }
 
+// The program's own: a word beside the value of the failure mode that governs.
+void frmDetailed::Show_governing() {
+    auto* area = findChild<PaintedArea*>(QStringLiteral("Pic_detailed"));
+    auto* governs = findChild<QLabel*>(QStringLiteral("Lbl_governs"));
+    const std::string label = std::string{"Rk("} + Governing_mode(session_.State()).mode + ")";
+    const std::vector<PaintedText>& texts = area->Shown().texts;
+    const auto mode =
+        std::find_if(texts.begin(), texts.end(), [&](const PaintedText& text) { return text.text.starts_with(label); });
+    const auto value = std::find_if(mode, texts.end(), [](const PaintedText& text) { return text.x > 70.0F; });
+    governs->setVisible(value != texts.end());
+    if (value == texts.end()) {
+        return;
+    }
+    governs->setText(Is_english(session_.State()) ? QStringLiteral("governs") : QStringLiteral("avgjørende"));
+    const double top = (100.0 - static_cast<double>(value->y)) / 100.0 * area->height();
+    governs->adjustSize();
+    governs->move(static_cast<int>(std::lround(0.9 * area->width())), static_cast<int>(std::lround(top)));
+}
+
 void frmDetailed::showEvent(QShowEvent* event) {
     Lay_out();
     Painting painting = Paint_detailed(session_.State());
     setWindowTitle(Q(painting.caption));
     findChild<PaintedArea*>(QStringLiteral("Pic_detailed"))->Set_painting(std::move(painting));
     Show_standing();
+    Show_governing();
     QDialog::showEvent(event);
 }
 

@@ -22,6 +22,7 @@ protected:
 private:
     void Lay_out();
     void Show_standing();
+    void Show_governing();
 
     QWidget& window_;
     const Session& session_;

@@ -189,6 +189,25 @@ TEST_F(ResultMarks, the_detailed_calculations_say_when_they_are_old) {
     EXPECT_EQ(in_details(), "Splitting not checked");
 }
 
+TEST_F(ResultMarks, the_detailed_calculations_name_the_mode_that_governs_beside_its_value) {
+    for (const char* lang : {"Eng", "Nor"}) {
+        Start(lang);
+        ASSERT_EQ(Governing_mode(s).mode, 'c'); // 7.42 kN, the least of the six
+        In_dialog([&](QWidget& dialog) {
+            auto& governs = Find_in<QLabel>(dialog, "Lbl_governs");
+            EXPECT_TRUE(governs.isVisible());
+            EXPECT_EQ(Text_of(governs), std::string_view{lang} == "Eng" ? "governs" : "avgjørende");
+            const QWidget* area = governs.parentWidget();
+            EXPECT_LE(governs.geometry().right(), area->width());
+            // The row of mode c lies between those of b and d, at 52 and 36 of 100.
+            EXPECT_GT(governs.y(), (100 - 52) * area->height() / 100);
+            EXPECT_LT(governs.y(), (100 - 36) * area->height() / 100);
+        });
+        Click("Cmd_detail");
+        Be_active();
+    }
+}
+
 // Commands that use the inputs.
 
 TEST_F(ResultMarks, saving_lets_the_box_be_left_first_and_gives_the_focus_back) {

@@ -3,6 +3,8 @@
 #include <QAction>
 #include <QCloseEvent>
 #include <QDialog>
+#include <QKeySequence>
+#include <QShortcut>
 
 #include <cmath>
 #include <exception>
@@ -153,9 +155,18 @@ void frmMain::Connect_explanation(const char* button, const char* name) {
 }
 
 void frmMain::Connect_windows() {
-    connect(&controls_.Find<QAbstractButton>("Cmd_detail"), &QAbstractButton::clicked, this, [this] {
+    auto& detail = controls_.Find<QAbstractButton>("Cmd_detail");
+    connect(&detail, &QAbstractButton::clicked, this, [this] {
         frmDetailed window{*this, session_};
         Show_modal(window);
+    });
+    // Of the window: a caption that is written anew would take a shortcut of the button's own.
+    const QKeySequence key{Qt::CTRL | Qt::Key_D};
+    detail.setToolTip(key.toString(QKeySequence::NativeText));
+    connect(new QShortcut{key, this}, &QShortcut::activated, &detail, [&detail] {
+        if (detail.isVisible()) {
+            detail.click();
+        }
     });
     Connect_explanation("Cmd_Bolt_eff_bolt", "Frm_tarn_vik_effbolt");
     Connect_explanation("Cmd_tverr", "Frm_tarn_vik_txt_tverr_brudd");

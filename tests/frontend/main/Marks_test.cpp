@@ -268,6 +268,58 @@ TEST_F(ResultMarks, commands_have_shortcuts) {
     EXPECT_EQ(Find<QAction>("mnuexit").shortcut(), QKeySequence{QStringLiteral("Ctrl+Q")});
 }
 
+TEST_F(ResultMarks, a_whole_check_by_keys_alone) {
+    Start("Eng");
+    const auto go_to = [this](const std::string& name) {
+        for (int i = 0; i < 40 && Focus() != name; ++i) {
+            Key(Qt::Key_Tab);
+        }
+        ASSERT_EQ(Focus(), name);
+    };
+    go_to("txtprosjekt");
+    Keys("Bridge");
+    go_to("Comb_ant_bolt");
+    Key(Qt::Key_Down); // three bolts
+    go_to("Opt_stand");
+    Key(Qt::Key_Down); // free entry
+    go_to("Txt_b1");
+    for (const char* value : {"98", "398", "98", "398"}) { // b and h of both members, as they stand
+        Keys(value);
+        Key(Qt::Key_Tab);
+    }
+    go_to("Cmd_type(3)");
+    Key(Qt::Key_Space);
+    go_to("Txt_last");
+    Keys("6");
+    Key(Qt::Key_Tab);
+    EXPECT_EQ(s.Prosjekt, "Bridge");
+    EXPECT_EQ(s.n_bolt, 3);
+    EXPECT_EQ(s.Con_code, "4.1");
+    EXPECT_EQ(s.b1, 98.0F);
+    EXPECT_EQ(s.h2, 398.0F);
+    EXPECT_EQ(s.P, 6.0F);
+    EXPECT_TRUE(Visible("Lbl_verdict"));
+    bool seen = false;
+    QTimer look; // the keys themselves let events happen, so the window comes up some time after this
+    QObject::connect(&look, &QTimer::timeout, window.get(), [&] {
+        if (QWidget* dialog = QApplication::activeModalWidget()) {
+            look.stop();
+            seen = dialog->objectName() == QLatin1String("frmDetailed");
+            QTest::keyClick(dialog, Qt::Key_Return);
+            dialog->close();
+        }
+    });
+    look.start(10);
+    Key(Qt::Key_D, Qt::ControlModifier);
+    Be_active();
+    EXPECT_TRUE(seen);
+    dialogs.answer = (work / "keys.tnvik").string();
+    Key(Qt::Key_S, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_TRUE(std::filesystem::exists(work / "keys.tnvik"));
+    Key(Qt::Key_P, Qt::ControlModifier);
+    EXPECT_EQ(printer.asked.size(), 1U);
+}
+
 TEST_F(ResultMarks, enter_presses_the_focused_button_of_a_dialog_and_no_other) {
     Start("Eng");
     Menu("mnusetup", [this](QWidget& dialog) {

@@ -207,7 +207,10 @@ TEST_P(Monkey, whatever_is_done_the_window_shows_what_the_state_holds) {
     Pick("cboProf1", 55); // L 42x405: most cases fit
     Pick("cboProf2", 55);
     std::string history;
-    for (int i = 0; i < 250 && !HasFailure(); ++i) {
+    // A longer walk: TARNVIK_MONKEY_STEPS=25000.
+    const int asked = qEnvironmentVariableIntValue("TARNVIK_MONKEY_STEPS");
+    const int steps = asked > 0 ? asked : 250;
+    for (int i = 0; i < steps && !HasFailure(); ++i) {
         const std::string did = Act();
         if (did.empty()) {
             continue;

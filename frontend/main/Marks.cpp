@@ -110,7 +110,7 @@ void Marks::Show_arrangement() const {
 
 void Place_marks(Boxes& boxes, const QFont& font, double dots_per_inch) {
     constexpr double twips_per_inch = 1440.0;
-    constexpr double gap = 12.0 * 15.0; // 12 pixels at 96 dots per inch
+    constexpr double gap = 9.0 * 15.0; // 9 pixels at 96 dots per inch: the title begins 5 pixels from the corner
     const QFontMetricsF metrics{font};
     const double to_twips = twips_per_inch / dots_per_inch;
     const double line = metrics.height() * to_twips;
@@ -134,7 +134,7 @@ void Place_marks(Boxes& boxes, const QFont& font, double dots_per_inch) {
     in_title_row("Lbl_verdict", "Fra_results", "Fra_bolt_kap");
     in_title_row("Lbl_sign", "Fra_last", "Pic_last");
     const Box& help = boxes["Cmd_tverr"];
-    boxes["Lbl_tverr_current"] = Box{gap / 6.0, help.top - gap / 6.0, help.left - gap / 3.0, help.height + gap / 3.0};
+    boxes["Lbl_tverr_current"] = Box{30.0, help.top - 30.0, help.left - 60.0, help.height + 60.0};
 }
 
 } // namespace tarnvik

@@ -30,6 +30,7 @@ const std::map<std::string, double> narrowed{
     {"Lbl_lastvar_2", 0.87},     // "Instantaneous action", the longest of the classes
     {"lbl_txt_avstand", 0.97},   // "distance", the second line
     {"Pic_av_bolter_dif", 0.97}, // the Norwegian note on small angles
+    {"Lbl_sign", 0.91},          // "calculated as compression", beside the title of its frame
 };
 
 std::string Name(const QWidget& widget) {
@@ -354,6 +355,39 @@ TEST_F(LayoutWalk, the_free_entry_and_every_number) {
             s.Mat_index = static_cast<std::int16_t>(row);
             window->Work().Recalculate();
             Measure_window(measure);
+        }
+    }
+    Expect_none(measure);
+}
+
+TEST_F(LayoutWalk, the_marks_of_old_results_and_of_the_sign) {
+    Measure measure;
+    const auto expect_room = [this, &measure](const char* name) {
+        ASSERT_TRUE(Visible(name)) << name;
+        Measure_window(measure);
+    };
+    for (const char* lang : {"Eng", "Nor"}) {
+        Start(lang);
+        Click("Opt_strekk");
+        Enter_value("Txt_last", "12"); // stored positive
+        expect_room("Lbl_sign");
+        s.P = -12.0F;
+        Find<QAbstractButton>("Opt_trykk").setChecked(true); // makes it positive again
+        s.P = -12.0F;
+        window->Work().Recalculate();
+        expect_room("Lbl_sign");
+        s.P = 12.0F;
+        window->Work().Recalculate();
+        Click("Check_man");
+        Enter_value("Txt_last", "3");
+        expect_room("Lbl_tverr_current");
+        expect_room("Lbl_verdict");
+        Click("Check_man");
+        for (const char* height : {"0", "60"}) { // a side of zero; too low for the distances
+            Find<QAbstractButton>("Opt_valg").setChecked(true);
+            Box("Txt_h2").setText(QString::fromLatin1(height));
+            window->Work().Pass();
+            expect_room("Lbl_current");
         }
     }
     Expect_none(measure);

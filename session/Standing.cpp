@@ -66,10 +66,11 @@ struct FaultWords {
     Words words;
 };
 constexpr Words too_low{"member too low for the distances", "delen er for lav for avstandene"};
-constexpr std::array<FaultWords, 9> fault_words{{
+constexpr std::array<FaultWords, 10> fault_words{{
     {"Tverr_brudd", 0,                      too_low},
     {"Get_material", 0,                     {"material is not in its table",        "materialet er ikke i tabellen"}},
     {"Get_gm",       0,                     {"material is not in its table",        "materialet er ikke i tabellen"}},
+    {"Get_fh",       fault_division_by_zero,{"the material has no density",         "materialet har ingen densitet"}},
     {"Main_beregn",  fault_subscript,       {"section is not in its table",         "tverrsnittet er ikke i tabellen"}},
     {"Main_beregn",  fault_division_by_zero,{"no capacity, or a partial factor of zero", "ingen kapasitet, eller partialfaktor lik null"}},
     {"",             fault_overflow,        {"a number is too large",               "et tall er for stort"}},

@@ -21,6 +21,7 @@
 #include "frontend/main/Languages.h"
 #include "frontend/main/Placement.h"
 #include "frontend/painting/Texts.h"
+#include "session/Start_finding.h"
 
 namespace tarnvik {
 
@@ -66,11 +67,12 @@ void frmMain::Load() {
     Set_caption();
     Write_language(); // before the first sight of the window: no caption turns before the user's eyes
     show();
-    if (const PassResult result = session_.First_pass(); result.fault) {
-        throw RuntimeFault{*result.fault};
-    }
+    const PassResult first = session_.First_pass();
     if (report.setup_missing) {
         Tell_missing_setup();
+    }
+    if (const std::string finding = Start_finding(s_, first, app_path_); !finding.empty()) {
+        services_.boxes.Show(finding, box_exclamation);
     }
 }
 

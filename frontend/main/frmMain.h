@@ -37,8 +37,9 @@ public:
     frmMain(ConnectionState& state, const Services& services, std::filesystem::path App_path);
     ~frmMain() override;
 
-    // The load step: reads the files, fills and lays out the controls, shows the window, runs the first pass.
-    // Errors: throws DataFileError and RuntimeFault: the program cannot start.
+    // The load step: reads the files, fills and lays out the controls, shows the window, runs the first pass. A table
+    // that a new project cannot be calculated with is told in a box, and the program goes on.
+    // Errors: throws DataFileError: the program cannot start.
     void Load();
 
     // Opens a project as the File menu does.

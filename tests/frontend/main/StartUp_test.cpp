@@ -1,6 +1,11 @@
 // The start: what a new project shows, in both languages, and what a missing file does.
 #include <QScreen>
 
+#include <sstream>
+#include <string>
+#include <string_view>
+#include <vector>
+
 #include "calc/RuntimeFault.h"
 #include "data/Startup.h"
 #include "frontend/dialogs/Frm_tarn_vik_fak_klass.h"
@@ -180,6 +185,96 @@ TEST_F(StartUp, a_shorter_profile_file_leaves_the_lists_without_a_selection) {
     EXPECT_EQ(s.Prof1_index, 0);
     Pick("cboProf2", 0);
     EXPECT_EQ(Text("Txt_h2"), "198.0");
+}
+
+// The lines of a delivered file in the program's folder, to be changed and put back.
+class DamagedTable : public WindowTest {
+protected:
+    std::vector<std::string> Lines(const char* file) const {
+        std::istringstream text{Read_file(folder / file)};
+        std::vector<std::string> lines;
+        for (std::string line; std::getline(text, line);) {
+            lines.push_back(line);
+        }
+        return lines;
+    }
+    void Put(const char* file, const std::vector<std::string>& lines) const {
+        std::string text;
+        for (const std::string& line : lines) {
+            text += line + "\n";
+        }
+        Write_file(folder / file, text);
+    }
+    // Starts, and answers the one box, which has to hold the texts.
+    void Start_with_box(std::string_view lang, const std::vector<std::string>& texts) {
+        Start(lang);
+        ASSERT_EQ(boxes.messages.size(), 1U);
+        EXPECT_EQ(boxes.messages[0].style, 48);
+        for (const std::string& text : texts) {
+            EXPECT_NE(boxes.messages[0].text.find(text), std::string::npos) << boxes.messages[0].text;
+        }
+        EXPECT_EQ(boxes.messages[0].text.find("Run-time"), std::string::npos) << boxes.messages[0].text;
+        Answer();
+    }
+
+    static constexpr std::size_t headings = 7;
+};
+
+TEST_F(DamagedTable, a_short_material_table_is_told_by_file_and_row_and_another_row_can_be_chosen) {
+    std::vector<std::string> lines = Lines("TarnvikMaterial.csv");
+    lines.resize(headings + 2);
+    Put("TarnvikMaterial.csv", lines);
+    Start_with_box("Eng", {"TarnvikMaterial.csv in " + folder.Path().string(), "row 4 marked S is missing",
+                           "the table has 2.", "not current until"});
+    EXPECT_EQ(Text("Lbl_current"), "Not current: the material has no density");
+    EXPECT_EQ(Row("cboMat"), -1);
+    Pick("cboMat", 1);
+    EXPECT_FALSE(Visible("Lbl_current"));
+    EXPECT_EQ(s.rho_k, 310.0F); // C16
+}
+
+TEST_F(DamagedTable, an_empty_material_table_does_not_lock_the_user_out) {
+    Write_file(folder / "TarnvikMaterial.csv", "");
+    Start_with_box("Nor",
+                   {"TarnvikMaterial.csv i " + folder.Path().string(), "rad 4 merket S mangler", "tabellen har 0."});
+    EXPECT_TRUE(Visible("Lbl_current"));
+}
+
+TEST_F(DamagedTable, a_material_without_density_is_told_by_its_row_and_column) {
+    std::vector<std::string> lines = Lines("TarnvikMaterial.csv");
+    lines[headings + 3] = "C20;T;S ;20;19;2.3;3.6;9500;6400;590";
+    Put("TarnvikMaterial.csv", lines);
+    Start_with_box("Eng",
+                   {"row 4 marked S (\"C20\"): characteristic density, column 11, = 0 kg/m3, expected above 0."});
+    Pick("cboMat", 4);
+    EXPECT_FALSE(Visible("Lbl_current"));
+}
+
+TEST_F(DamagedTable, short_profile_tables_are_told_by_both_rows) {
+    std::vector<std::string> lines = Lines("TarnvikProfile.csv");
+    lines.resize(headings + 1);
+    Put("TarnvikProfile.csv", lines);
+    Start_with_box("Eng", {"TarnvikProfile.csv in ", "row 4 marked S is missing", "row 7 marked S is missing"});
+    EXPECT_EQ(Text("Lbl_current"), "Not current: a section has a side of zero");
+}
+
+TEST_F(DamagedTable, a_section_too_low_for_its_bolts_is_told_with_the_height_that_it_needs) {
+    std::vector<std::string> lines = Lines("TarnvikProfile.csv");
+    lines[headings + 6] = "T  36x48;T;S;36;48";
+    Put("TarnvikProfile.csv", lines);
+    // The loaded edge of M20 at 25 degrees: (2 + 2 sin alpha) d = 56.9 mm is less than 3 d = 60 mm, EN 1995-1-1
+    // table 8.4.
+    Start_with_box("Eng", {"row 7 marked S (\"T  36x48\"): h = 48 mm, expected above 60."});
+    EXPECT_EQ(Text("Lbl_current"), "Not current: member too low for the distances");
+    Pick("cboProf2", 20);
+    EXPECT_FALSE(Visible("Lbl_current"));
+}
+
+TEST_F(DamagedTable, a_section_without_width_is_told_in_Norwegian) {
+    std::vector<std::string> lines = Lines("TarnvikProfile.csv");
+    lines[headings + 3] = "T  34x95;T;S;;95";
+    Put("TarnvikProfile.csv", lines);
+    Start_with_box("Nor", {"rad 4 merket S (\"T  34x95\"): b = 0 mm, ventet over 0.", "er ikke aktuelle"});
 }
 
 } // namespace

@@ -4,6 +4,7 @@
 #include <QMessageBox>
 
 #include <algorithm>
+#include <filesystem>
 #include <iostream>
 #include <optional>
 #include <string>
@@ -11,6 +12,7 @@
 
 #include "calc/RuntimeFault.h"
 #include "calc/Version.h"
+#include "data/Folders.h"
 #include "data/Startup.h"
 #include "frontend/controls/Style.h"
 #include "frontend/main/CommandLine.h"
@@ -62,9 +64,9 @@ int Run_window(int argc, char** argv, const std::string& project) {
     tarnvik::QtPrinterService printer;
     tarnvik::QtClock clock;
     try {
-        tarnvik::frmMain window{state,
-                                {boxes, files, opener, settings, printer, clock},
-                                tarnvik::U(QCoreApplication::applicationDirPath())};
+        const std::filesystem::path folder = tarnvik::U(QCoreApplication::applicationDirPath());
+        tarnvik::frmMain window{
+            state, {boxes, files, opener, settings, printer, clock}, {folder, folder, tarnvik::User_state_folder()}};
         window.Load();
         if (!project.empty()) {
             window.Open(project);

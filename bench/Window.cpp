@@ -48,7 +48,7 @@ struct Program {
     tarnvik::test::ScriptedPrinter printer;
     tarnvik::SystemClock clock;
     tarnvik::ConnectionState state;
-    tarnvik::frmMain window{state, {boxes, files, opener, settings, printer, clock}, TARNVIK_DATA_DIR};
+    tarnvik::frmMain window{state, {boxes, files, opener, settings, printer, clock}, {TARNVIK_DATA_DIR, TARNVIK_DATA_DIR, {}}};
 };
 
 // Which widgets were painted.

@@ -143,6 +143,8 @@ struct SetupRecord {
     FixedText<3> Language;
     std::array<std::string, 6> Setup_line; // (4) and (5) stay empty
     float gam_timb{}, gam_lam{}, gam_kerto{}, gam_k_bjelke{};
+
+    friend bool operator==(const SetupRecord& one, const SetupRecord& other) = default;
 };
 
 inline constexpr int mat_rows = 101;  // rows 0 to 100

@@ -30,6 +30,8 @@ struct Project_record {
     std::int16_t Avstand_index{};
     bool Man_he_on{};
     float man_he{};
+
+    friend bool operator==(const Project_record& one, const Project_record& other) = default;
 };
 
 // From the state to the record.

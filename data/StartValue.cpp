@@ -2,13 +2,21 @@
 
 namespace tarnvik {
 
-void StartValue(ConnectionState& s) {
+void Name_new_file(ConnectionState& s) {
+    s.File_named = false;
     if (s.Lang == "Eng") {
         s.File_name = "New File";
+    } else if (s.Lang == "Nor") {
+        s.File_name = "Ny Fil";
+    }
+}
+
+void StartValue(ConnectionState& s) {
+    Name_new_file(s);
+    if (s.Lang == "Eng") {
         s.Prosjekt = "Project 1";
         s.Id = "Bolt Connections -1";
     } else if (s.Lang == "Nor") {
-        s.File_name = "Ny Fil";
         s.Prosjekt = "Prosjekt 1";
         s.Id = "Bolteforbindelse - 1";
     }

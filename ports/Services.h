@@ -14,6 +14,11 @@
 
 namespace tarnvik {
 
+struct Question {
+    std::string text;
+    std::string yes, no; // what the buttons say
+};
+
 // Message boxes of the window. A box never nests an event loop: it is shown after the running handler has returned, and
 // what has to follow its answer is passed along.
 class BoxService : public MessageBox {
@@ -22,6 +27,9 @@ public:
 
     // `then` runs when the box has been answered.
     virtual void Show_then(std::string_view text, int style, std::function<void()> then) = 0;
+
+    // A question with two answers, none of which a stray key gives; `then` learns whether it was the first.
+    virtual void Ask(const Question& question, std::function<void(bool yes)> then) = 0;
 };
 
 // Flags of a file dialog, those of the common dialog.

@@ -1,6 +1,8 @@
 #include "session/Session.h"
 
-#include "data/ProjectFile.h"
+#include <utility>
+
+#include "data/StartValue.h"
 
 namespace tarnvik {
 
@@ -35,9 +37,9 @@ void Session::Recalculate() {
     }
 }
 
-std::optional<RuntimeFault> Session::Open_project(const std::string& path, const std::function<void()>& show) {
-    std::optional<RuntimeFault> failure;
+std::optional<RuntimeFault> Session::Read_project(const std::string& path, const std::function<void()>& show) {
     results_.Forget_splitting(); // a typed he comes with the file, its check does not
+    saved_.reset();
     try {
         Project_record record;
         Load_project(s_, record, path);
@@ -47,9 +49,25 @@ std::optional<RuntimeFault> Session::Open_project(const std::string& path, const
         }
     } catch (const RuntimeFault& fault) {
         Open_project_failed(s_, fault.number, view_.Box());
-        failure = fault;
+        return fault;
     }
+    return std::nullopt;
+}
+
+std::optional<RuntimeFault> Session::Open_project(const std::string& path, const std::function<void()>& show) {
+    const std::optional<RuntimeFault> failure = Read_project(path, show);
     Name(path);
+    return failure;
+}
+
+std::optional<RuntimeFault> Session::Recover(const std::string& path, const std::string& project,
+                                             const std::function<void()>& show) {
+    const std::optional<RuntimeFault> failure = Read_project(path, show);
+    if (!failure && project.empty()) {
+        Name_new_file(s_);
+    } else if (!failure) {
+        Name(project);
+    }
     return failure;
 }
 
@@ -58,14 +76,32 @@ void Session::Name(const std::string& path) {
     s_.File_named = true;
 }
 
-void Session::Save(const std::string& path, const std::optional<TypedNames>& typed) const {
-    Project_record record;
-    Fill_project(s_, record);
+Session::Content Session::Content_now(const std::optional<TypedNames>& typed) const {
+    Content content{{}, s_.Setup};
+    Fill_project(s_, content.record);
     if (typed) {
-        record.Prosjekt = typed->Prosjekt;
-        record.Id = typed->Id;
+        content.record.Prosjekt = typed->Prosjekt;
+        content.record.Id = typed->Id;
     }
-    Save_project(s_, record, path);
+    return content;
+}
+
+void Session::Save(const std::string& path, const std::optional<TypedNames>& typed) {
+    Content content = Content_now(typed);
+    Save_project(s_, content.record, path);
+    saved_ = std::move(content);
+}
+
+std::string Session::Bytes(const std::optional<TypedNames>& typed) const {
+    return Project_bytes(s_, Content_now(typed).record);
+}
+
+void Session::Note_saved(const std::optional<TypedNames>& typed) {
+    saved_ = Content_now(typed);
+}
+
+bool Session::Unsaved(const std::optional<TypedNames>& typed) const {
+    return !saved_ || !(*saved_ == Content_now(typed));
 }
 
 void Session::Print(PrintTarget& target, const Moment& now) {

@@ -13,6 +13,7 @@
 #include "calc/RuntimeFault.h"
 #include "calc/Screen.h"
 #include "calc/pass/Main_beregn.h"
+#include "data/ProjectFile.h"
 #include "data/Startup.h"
 #include "ports/Clock.h"
 #include "ports/MessageBox.h"
@@ -88,18 +89,43 @@ public:
     void Name(const std::string& path);
 
     // Writes the project, which keeps its name. Errors: throws RuntimeFault, as Safe_write.
-    void Save(const std::string& path, const std::optional<TypedNames>& typed = std::nullopt) const;
+    void Save(const std::string& path, const std::optional<TypedNames>& typed = std::nullopt);
+
+    // What Save would write now, as bytes.
+    [[nodiscard]] std::string Bytes(const std::optional<TypedNames>& typed = std::nullopt) const;
+
+    // What Save would write now is what the user has on the disk, or has not touched yet.
+    void Note_saved(const std::optional<TypedNames>& typed = std::nullopt);
+
+    // Save would write something else than what was last noted as saved.
+    [[nodiscard]] bool Unsaved(const std::optional<TypedNames>& typed = std::nullopt) const;
+
+    // Opens the recovered work on a project, as Open_project; its name becomes `project`, that of a new file where that
+    // is empty, and stays where the work cannot be read. It counts as unsaved.
+    std::optional<RuntimeFault> Recover(const std::string& path, const std::string& project,
+                                        const std::function<void()>& show = {});
 
     // The report of the state as it stands. Errors: as PrintReport.
     void Print(PrintTarget& target, const Moment& now);
 
 private:
+    // What a project file holds of the inputs. Its tables change with an opening only.
+    struct Content {
+        Project_record record;
+        SetupRecord Setup;
+
+        friend bool operator==(const Content& one, const Content& other) = default;
+    };
+    [[nodiscard]] Content Content_now(const std::optional<TypedNames>& typed) const;
+    std::optional<RuntimeFault> Read_project(const std::string& path, const std::function<void()>& show);
+
     ConnectionState& s_;
     SessionView& view_;
     std::filesystem::path folder_;
     Screen screen_;
     Standing results_;
-    SpacingTexts report_texts_; // outlive a print
+    std::optional<Content> saved_; // nothing: no file holds what a failed opening left
+    SpacingTexts report_texts_;    // outlive a print
 };
 
 } // namespace tarnvik

@@ -12,6 +12,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "frontend/controls/Style.h"
 #include "frontend/painting/SetText.h"
@@ -61,6 +62,22 @@ void Label::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter{this};
     painter.setPen(palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, foregroundRole()));
     Draw_text(painter, text(), font(), QRectF{rect()}, alignment());
+}
+
+void CornerLabel::Set_texts(QStringList texts) {
+    texts_ = std::move(texts);
+    setAlignment(Qt::AlignCenter);
+    updateGeometry();
+}
+
+QSize CornerLabel::sizeHint() const {
+    const QFontMetrics letters = fontMetrics();
+    const int gap = letters.height() / 2; // on either side
+    int width = 0;
+    for (const QString& text : texts_) {
+        width = std::max(width, letters.horizontalAdvance(text));
+    }
+    return {width + 2 * gap, letters.height() + gap / 2}; // as high as an entry of the bar
 }
 
 void Mark::paintEvent(QPaintEvent* event) {

@@ -37,6 +37,20 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 };
 
+// A label in the corner of a menu bar, which gives it its place once: it asks for room for the widest of its texts,
+// also while it shows none.
+class CornerLabel : public Label {
+    Q_OBJECT
+
+public:
+    using Label::Label;
+    void Set_texts(QStringList texts);
+    [[nodiscard]] QSize sizeHint() const override;
+
+private:
+    QStringList texts_;
+};
+
 // A label over the border of a frame: what its text covers is cleared of the border.
 class Mark : public Label {
     Q_OBJECT

@@ -100,6 +100,7 @@ void InputBoxes::Connect_moves(const MainControls& controls) {
 }
 
 void InputBoxes::Connect_text(TextBox& box, std::string ConnectionState::*text) {
+    connect(&box, &QLineEdit::textChanged, this, &InputBoxes::Names_typed);
     connect(&box, &TextBox::Lost_focus, this, [this, &box, text] {
         if (!s_.Loading && !editing_.Refusing()) {
             box.Set_back(colour_white_box);

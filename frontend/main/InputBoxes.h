@@ -31,6 +31,8 @@ public:
     void Show_manual_he() const;
 
 signals:
+    // A name of the project is being typed.
+    void Names_typed();
     // The splitting check was made on a typed he, or could not be.
     void Splitting_checked();
 

@@ -159,6 +159,10 @@ void MainControls::Build_menus(QMainWindow& window) {
     QMenu* help = top({"mnuhelp", "&Hjelp"});
     add(help, {"mmuTheory", "&User && Theory Manual"})->setShortcut(QKeySequence::HelpContents);
     add(help, {"mnuabout", "&Om Tarnvik"});
+    auto* unsaved = new CornerLabel{bar};
+    unsaved->setObjectName(QStringLiteral("Lbl_unsaved"));
+    bar->setCornerWidget(unsaved);
+    controls_.emplace("Lbl_unsaved", unsaved);
 }
 
 void MainControls::Set_tab_order() {

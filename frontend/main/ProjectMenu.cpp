@@ -70,6 +70,7 @@ void ProjectMenu::Save() {
     try {
         session_.Save(s.File_name, boxes_.Names());
         s.File_named = true;
+        emit Stored();
     } catch (const RuntimeFault& fault) {
         services_.boxes.Show(Fault_text(fault), box_plain);
     }
@@ -92,6 +93,7 @@ void ProjectMenu::Save_as() {
     } catch (const RuntimeFault&) { // NOLINT(bugprone-empty-catch): a failed statement of save as is skipped
     }
     emit Named();
+    emit Stored();
     Recent_shift(services_.settings, *path);
     Load_recent();
 }
@@ -104,7 +106,7 @@ void ProjectMenu::Recent_open(int Index) {
 }
 
 void ProjectMenu::Open_path(const std::string& path) {
-    session_.Open_project(path, show_project_);
+    const bool opened = !session_.Open_project(path, show_project_);
     // What follows runs whether or not the file could be read.
     emit Named();
     try {
@@ -113,6 +115,17 @@ void ProjectMenu::Open_path(const std::string& path) {
     }
     Load_recent();
     session_.First_pass(); // a fault is passed over, as any failed statement of the opening
+    if (opened) {
+        session_.Note_saved(boxes_.Names());
+    }
+    emit Stored();
+}
+
+void ProjectMenu::Recover(const std::string& path, const std::string& project) {
+    session_.Recover(path, project, show_project_);
+    emit Named();
+    session_.First_pass();
+    emit Stored();
 }
 
 } // namespace tarnvik

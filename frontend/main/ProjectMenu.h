@@ -31,9 +31,14 @@ public:
     // The last files from the settings store onto the menu.
     void Load_recent();
 
+    // Opens the work that a former run left on a project.
+    void Recover(const std::string& path, const std::string& project);
+
 signals:
     // The project has a name now.
     void Named();
+    // What is on the disk may be what the window shows, or may be so no longer.
+    void Stored();
 
 private:
     // File menu: 1 open, 2 save, 3 save as.

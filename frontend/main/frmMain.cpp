@@ -31,13 +31,15 @@ constexpr const char* manual = "Tarnvik User & Theory Manual.pdf";
 
 } // namespace
 
-frmMain::frmMain(ConnectionState& state, const Services& services, std::filesystem::path App_path)
-    : s_(state), services_(services), app_path_(std::move(App_path)), session_(state, *this), controls_(Prepared()),
+frmMain::frmMain(ConnectionState& state, const Services& services, Folders folders)
+    : s_(state), services_(services), folders_(std::move(folders)), session_(state, *this), controls_(Prepared()),
       view_(controls_, state), editing_(*this, state, services_.boxes), boxes_(controls_, session_, editing_, view_),
       lists_(controls_, session_), selections_(controls_, session_, boxes_, lists_),
       projects_(controls_, session_, services_, editing_, boxes_, [this] { Show_project(); }),
-      marks_(controls_, session_), classes_(std::make_unique<Frm_tarn_vik_fak_klass>(*this, session_)) {
+      marks_(controls_, session_), recovery_(controls_, session_, boxes_, services_.boxes, folders_.state),
+      classes_(std::make_unique<Frm_tarn_vik_fak_klass>(*this, session_)) {
     connect(&projects_, &ProjectMenu::Named, this, &frmMain::Set_caption);
+    connect(&projects_, &ProjectMenu::Stored, &recovery_, &Recovery::Note);
     connect(&editing_, &BoxEditing::Refused, &marks_, &Marks::Show);
     connect(&boxes_, &InputBoxes::Splitting_checked, &marks_, &Marks::Show);
     Connect_windows();
@@ -57,7 +59,7 @@ QMainWindow& frmMain::Prepared() {
 void frmMain::Load() {
     s_.Loading = true;
     projects_.Load_recent();
-    const StartReport report = session_.Start(app_path_);
+    const StartReport report = session_.Start(folders_.data);
     StartValue_controls();
     lists_.WritefrmCboBulldog();
     lists_.WritefrmCboMatProf();
@@ -71,9 +73,12 @@ void frmMain::Load() {
     if (report.setup_missing) {
         Tell_missing_setup();
     }
-    if (const std::string finding = Start_finding(s_, first, app_path_); !finding.empty()) {
+    if (const std::string finding = Start_finding(s_, first, folders_.data); !finding.empty()) {
         services_.boxes.Show(finding, box_exclamation);
     }
+    session_.Note_saved(boxes_.Names());
+    recovery_.Note();
+    recovery_.Offer([this](const std::string& path, const std::string& project) { projects_.Recover(path, project); });
 }
 
 void frmMain::Open(const std::string& path) {
@@ -82,7 +87,7 @@ void frmMain::Open(const std::string& path) {
 
 void frmMain::Tell_missing_setup() {
     services_.boxes.Show(
-        std::string{setup_file_read} + " in " + app_path_.string() +
+        std::string{setup_file_read} + " in " + folders_.data.string() +
             ": file not found.\nNorwegian texts and the partial factors 1.3, 1.25, 1.2, 1.25 are used.",
         box_exclamation);
 }
@@ -104,6 +109,7 @@ void frmMain::Before_pass() {
 void frmMain::After_pass() {
     view_.Show(session_.Shown());
     marks_.Show();
+    recovery_.Note();
     emit Calculated();
 }
 
@@ -212,7 +218,7 @@ void frmMain::Activate() {
 }
 
 void frmMain::Open_manual() {
-    const std::filesystem::path path = app_path_ / "Documentation" / manual;
+    const std::filesystem::path path = folders_.program / "Documentation" / manual;
     std::error_code error;
     if (!std::filesystem::exists(path, error) || !services_.opener.Open_file(path.string())) {
         services_.boxes.Show((Is_english(s_) ? " Can't open the file " : " Kan ikke åpne filen ") + path.string(),
@@ -232,7 +238,10 @@ void frmMain::Print_report() {
     } catch (const std::exception&) { // NOLINT(bugprone-empty-catch): the same
     }
     // Whatever happened, in English in both languages, and then the end of the work with the window.
-    services_.boxes.Show_then("User pressed the Cancel button", box_exclamation, [this] { close(); });
+    services_.boxes.Show_then("User pressed the Cancel button", box_exclamation, [this] {
+        work_stays_ = true;
+        close();
+    });
 }
 
 bool frmMain::event(QEvent* event) {
@@ -244,6 +253,11 @@ bool frmMain::event(QEvent* event) {
 
 void frmMain::closeEvent(QCloseEvent* event) {
     event->accept();
+    if (work_stays_) {
+        recovery_.Keep();
+    } else {
+        recovery_.Drop();
+    }
     emit Unloaded();
 }
 

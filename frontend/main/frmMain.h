@@ -4,13 +4,13 @@
 
 #include <QMainWindow>
 
-#include <filesystem>
 #include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
 
 #include "calc/GlobalParameter.h"
+#include "data/Folders.h"
 #include "frontend/dialogs/AboutTexts.h"
 #include "frontend/main/BoxEditing.h"
 #include "frontend/main/InputBoxes.h"
@@ -18,6 +18,7 @@
 #include "frontend/main/MainControls.h"
 #include "frontend/main/Marks.h"
 #include "frontend/main/ProjectMenu.h"
+#include "frontend/main/Recovery.h"
 #include "frontend/main/ScreenView.h"
 #include "frontend/main/Selections.h"
 #include "ports/Services.h"
@@ -33,8 +34,8 @@ class frmMain : public QMainWindow, private SessionView {
     Q_OBJECT
 
 public:
-    // Builds the window without reading anything. `App_path` is the program's folder.
-    frmMain(ConnectionState& state, const Services& services, std::filesystem::path App_path);
+    // Builds the window without reading anything.
+    frmMain(ConnectionState& state, const Services& services, Folders folders);
     ~frmMain() override;
 
     // The load step: reads the files, fills and lays out the controls, shows the window, runs the first pass. A table
@@ -86,7 +87,7 @@ private:
 
     ConnectionState& s_;
     Services services_;
-    std::filesystem::path app_path_;
+    Folders folders_;
     Session session_;
     MainControls controls_;
     ScreenView view_;
@@ -96,10 +97,12 @@ private:
     Selections selections_;
     ProjectMenu projects_;
     Marks marks_;
+    Recovery recovery_;
     std::unique_ptr<Frm_tarn_vik_fak_klass> classes_;
     AboutTexts about_;
     std::string title_prefix_;
     bool activated_{};
+    bool work_stays_{}; // the window closes on unsaved work, which the next start offers
 };
 
 } // namespace tarnvik

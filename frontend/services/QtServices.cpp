@@ -11,6 +11,7 @@
 #include <QPageSize>
 #include <QPrintDialog>
 #include <QPrinter>
+#include <QPushButton>
 #include <QSettings>
 #include <QUrl>
 
@@ -40,7 +41,15 @@ void QtBoxService::Show_then(std::string_view text, int style, std::function<voi
     if (!then && ((shown_ && waits(current_)) || std::any_of(pending_.begin(), pending_.end(), waits))) {
         return;
     }
-    pending_.push_back({std::string{text}, style, std::move(then)});
+    Enqueue({std::string{text}, style, std::move(then), {}, {}, {}});
+}
+
+void QtBoxService::Ask(const Question& question, std::function<void(bool yes)> then) {
+    Enqueue({question.text, box_plain, {}, question.yes, question.no, std::move(then)});
+}
+
+void QtBoxService::Enqueue(Pending box) {
+    pending_.push_back(std::move(box));
     QMetaObject::invokeMethod(this, &QtBoxService::Next, Qt::QueuedConnection);
 }
 
@@ -54,24 +63,40 @@ void QtBoxService::Next() {
     while (QWidget* popup = QApplication::activePopupWidget()) { // a list that dropped down would hide the box
         popup->close();
     }
+    Show_box(current_);
+}
+
+void QtBoxService::Show_box(const Pending& pending) {
     QWidget* parent = QApplication::activeModalWidget();
     if (parent == nullptr) {
         parent = QApplication::activeWindow();
     }
-    auto* box = new QMessageBox{current_.style == box_exclamation ? QMessageBox::Warning : QMessageBox::NoIcon,
-                                QStringLiteral(" "), Q(current_.text), QMessageBox::Ok, parent};
+    auto* box = new QMessageBox{pending.style == box_exclamation ? QMessageBox::Warning : QMessageBox::NoIcon,
+                                QStringLiteral(" "), Q(pending.text), QMessageBox::NoButton, parent};
     box->setObjectName(QStringLiteral("MessageBox"));
     box->setTextFormat(Qt::PlainText);
     box->setAttribute(Qt::WA_DeleteOnClose);
     box->setWindowModality(Qt::ApplicationModal);
-    connect(box, &QMessageBox::finished, this, [this, then = current_.then] {
-        shown_ = false;
-        if (then) {
-            // After the box is gone, so that the focus goes back to a window that is active again.
-            QMetaObject::invokeMethod(this, then, Qt::QueuedConnection);
-        }
-        QMetaObject::invokeMethod(this, &QtBoxService::Next, Qt::QueuedConnection);
-    });
+    const QAbstractButton* yes = nullptr;
+    if (pending.answered) {
+        // No button of these two roles answers to Escape or to the box's own cross.
+        yes = box->addButton(Q(pending.yes), QMessageBox::AcceptRole);
+        box->addButton(Q(pending.no), QMessageBox::DestructiveRole);
+    } else {
+        box->addButton(QMessageBox::Ok);
+    }
+    connect(box, &QMessageBox::finished, this,
+            [this, box, yes, then = pending.then, answered = pending.answered]() mutable {
+                shown_ = false;
+                if (answered) {
+                    then = [answered, first = box->clickedButton() == yes] { answered(first); };
+                }
+                if (then) {
+                    // After the box is gone, so that the focus goes back to a window that is active again.
+                    QMetaObject::invokeMethod(this, then, Qt::QueuedConnection);
+                }
+                QMetaObject::invokeMethod(this, &QtBoxService::Next, Qt::QueuedConnection);
+            });
     box->show();
 }
 

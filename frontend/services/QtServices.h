@@ -22,14 +22,19 @@ class QtBoxService : public QObject, public BoxService {
 
 public:
     void Show_then(std::string_view text, int style, std::function<void()> then) override;
+    void Ask(const Question& question, std::function<void(bool yes)> then) override;
 
 private:
     struct Pending {
         std::string text;
-        int style;
+        int style{};
         std::function<void()> then;
+        std::string yes, no; // of a question
+        std::function<void(bool)> answered;
     };
+    void Enqueue(Pending box);
     void Next();
+    void Show_box(const Pending& box);
 
     std::deque<Pending> pending_;
     Pending current_{}; // while shown_

@@ -35,20 +35,35 @@ public:
         waiting_.push_back(std::move(then));
     }
 
-    // The user reads the oldest box and presses OK.
-    void Answer() {
+    void Ask(const Question& question, std::function<void(bool yes)> then) override {
+        questions.push_back(question);
+        messages.push_back({question.text, box_plain});
+        waiting_.push_back([then = std::move(then), this] { then(yes_); });
+    }
+
+    // The user reads the oldest box and presses OK, or one of the buttons of a question.
+    void Answer(bool yes = true) {
+        yes_ = yes;
         const std::function<void()> then = waiting_.front();
         waiting_.pop_front();
         if (then) {
             then();
         }
     }
+    // The program ended with its boxes.
+    void Forget() {
+        messages.clear();
+        questions.clear();
+        waiting_.clear();
+    }
     [[nodiscard]] std::size_t Waiting() const { return waiting_.size(); }
 
     std::vector<Message> messages; // all that were shown, in turn
+    std::vector<Question> questions;
 
 private:
     std::deque<std::function<void()>> waiting_;
+    bool yes_{};
 };
 
 class ScriptedDialogs final : public FileDialogs {

@@ -28,6 +28,7 @@
 #include <utility>
 
 #include "calc/GlobalParameter.h"
+#include "data/Folders.h"
 #include "frontend/controls/Areas.h"
 #include "frontend/controls/Controls.h"
 #include "frontend/main/frmMain.h"
@@ -127,7 +128,7 @@ protected:
     }
     void Start_as_is() {
         window = std::make_unique<frmMain>(s, Services{*box_service, dialogs, opener, settings, printer, clock},
-                                           folder.Path());
+                                           Own_folders());
         QObject::connect(window.get(), &frmMain::Calculated, window.get(), [this] { ++passes; });
         window->Load();
         ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
@@ -253,8 +254,11 @@ protected:
         Settle();
     }
 
+    [[nodiscard]] Folders Own_folders() const { return {folder.Path(), folder.Path(), state_folder.Path()}; }
+
     TemporaryFolder folder; // of the program
-    TemporaryFolder work;   // the current directory
+    TemporaryFolder state_folder;
+    TemporaryFolder work; // the current directory
     RecordingBoxes boxes;
     BoxService* box_service{&boxes};
     ScriptedDialogs dialogs;

@@ -149,7 +149,7 @@ TEST_F(Controls, the_menu_bar_in_its_order) {
 }
 
 TEST_F(Controls, the_menus_as_built) {
-    window = std::make_unique<frmMain>(s, Services{boxes, dialogs, opener, settings, printer, clock}, folder.Path());
+    window = std::make_unique<frmMain>(s, Services{boxes, dialogs, opener, settings, printer, clock}, Own_folders());
     EXPECT_EQ(Text("mnufile"), "&File");
     EXPECT_EQ(Text("mnuFileItem(1)"), "&Åpne");
     EXPECT_EQ(Text("mnuFileItem(2)"), "&Lagre");

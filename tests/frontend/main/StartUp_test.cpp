@@ -64,7 +64,7 @@ TEST_F(StartUp, selects_the_start_values) {
 TEST_F(StartUp, has_calculated_once_before_the_first_input) {
     int before = -1;
     Write_setup_language("Eng");
-    window = std::make_unique<frmMain>(s, Services{boxes, dialogs, opener, settings, printer, clock}, folder.Path());
+    window = std::make_unique<frmMain>(s, Services{boxes, dialogs, opener, settings, printer, clock}, Own_folders());
     QObject::connect(window.get(), &frmMain::Calculated, window.get(), [this] { ++passes; });
     before = passes;
     window->Load();
@@ -162,7 +162,7 @@ TEST_F(StartUp, a_missing_material_or_profile_file_ends_the_start_with_its_name_
         const std::string kept = Read_file(folder / file);
         std::filesystem::remove(folder / file);
         window =
-            std::make_unique<frmMain>(s, Services{boxes, dialogs, opener, settings, printer, clock}, folder.Path());
+            std::make_unique<frmMain>(s, Services{boxes, dialogs, opener, settings, printer, clock}, Own_folders());
         try {
             window->Load();
             FAIL() << "started without " << file;

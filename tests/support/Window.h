@@ -127,6 +127,9 @@ protected:
         Start_as_is();
     }
     void Start_as_is() {
+        if (window != nullptr) {
+            window->close(); // a start after a normal end
+        }
         window = std::make_unique<frmMain>(s, Services{*box_service, dialogs, opener, settings, printer, clock},
                                            Own_folders());
         QObject::connect(window.get(), &frmMain::Calculated, window.get(), [this] { ++passes; });

@@ -1,6 +1,5 @@
 // main() of the program.
 #include <QApplication>
-#include <QLocale>
 #include <QMessageBox>
 
 #include <algorithm>
@@ -8,6 +7,7 @@
 #include <iostream>
 #include <optional>
 #include <string>
+#include <system_error>
 #include <vector>
 
 #include "calc/RuntimeFault.h"
@@ -20,8 +20,11 @@
 #include "frontend/painting/Icon.h"
 #include "frontend/painting/Texts.h"
 #include "frontend/services/QtServices.h"
+#include "session/SystemClock.h"
 
 namespace {
+
+namespace fs = std::filesystem;
 
 // A plain box, and the end of the program.
 int Give_up(const std::string& text) {
@@ -31,13 +34,13 @@ int Give_up(const std::string& text) {
 }
 
 // What the command line alone decides, on the terminal and without a display; nothing where the window is to open.
-std::optional<int> Answer(const tarnvik::CommandLine& line) {
+std::optional<int> Answer(const tarnvik::CommandLine& line, const fs::path& program) {
     if (!line.error.empty()) {
         std::cerr << "tarnvik: " << line.error << "\n";
         return 2;
     }
     if (line.help) {
-        std::cout << tarnvik::Command_line_help();
+        std::cout << tarnvik::Command_line_help(tarnvik::Find_data_folder(program, line.data).folder);
         return 0;
     }
     if (line.version) {
@@ -47,14 +50,31 @@ std::optional<int> Answer(const tarnvik::CommandLine& line) {
     return std::nullopt;
 }
 
-int Run_window(int argc, char** argv, const std::string& project) {
+// The folder of the program itself, links followed; that of the call where the system does not tell.
+fs::path Program_folder(const char* call) {
+    std::error_code error;
+    const fs::path program = fs::canonical("/proc/self/exe", error);
+    return (error ? fs::absolute(call) : program).parent_path();
+}
+
+// The user's own data folder is filled at the first start; where that cannot be, the delivered files are read.
+tarnvik::Folders Open_folders(const fs::path& program, const std::string& asked) {
+    const tarnvik::DataFolder data = tarnvik::Find_data_folder(program, asked);
+    bool filled = false;
+    try {
+        filled = tarnvik::Fill_data_folder(data);
+    } catch (const fs::filesystem_error&) { // NOLINT(bugprone-empty-catch): Readable_folder knows
+    }
+    return {tarnvik::Readable_folder(data), program, tarnvik::User_state_folder(), filled};
+}
+
+int Run_window(int argc, char** argv, const tarnvik::CommandLine& line, const fs::path& program) {
     QApplication application{argc, argv};
     QApplication::setApplicationName(QStringLiteral("Tarn-Vik"));
     QApplication::setDesktopFileName(QStringLiteral("tarnvik"));
     QApplication::setWindowIcon(tarnvik::Program_icon());
     tarnvik::Set_looks(application);
-    const QString point = QLocale::system().decimalPoint();
-    tarnvik::Set_decimal_sign(point == QLatin1String(",") ? ',' : '.');
+    tarnvik::Set_decimal_sign(tarnvik::System_decimal_sign());
 
     tarnvik::ConnectionState state;
     tarnvik::QtBoxService boxes;
@@ -62,14 +82,13 @@ int Run_window(int argc, char** argv, const std::string& project) {
     tarnvik::QtDocumentOpener opener;
     tarnvik::QtSettingsStore settings;
     tarnvik::QtPrinterService printer;
-    tarnvik::QtClock clock;
+    tarnvik::SystemClock clock;
     try {
-        const std::filesystem::path folder = tarnvik::U(QCoreApplication::applicationDirPath());
         tarnvik::frmMain window{
-            state, {boxes, files, opener, settings, printer, clock}, {folder, folder, tarnvik::User_state_folder()}};
+            state, {boxes, files, opener, settings, printer, clock}, Open_folders(program, line.data)};
         window.Load();
-        if (!project.empty()) {
-            window.Open(project);
+        if (!line.project.empty()) {
+            window.Open(line.project);
         }
         return QApplication::exec();
     } catch (const tarnvik::DataFileError& error) {
@@ -84,8 +103,9 @@ int Run_window(int argc, char** argv, const std::string& project) {
 int main(int argc, char** argv) {
     const tarnvik::CommandLine line =
         tarnvik::Parse_command_line(std::vector<std::string>(argv + std::min(argc, 1), argv + argc));
-    if (const std::optional<int> status = Answer(line)) {
+    const fs::path program = Program_folder(argv[0]);
+    if (const std::optional<int> status = Answer(line, program)) {
         return *status;
     }
-    return Run_window(argc, argv, line.project);
+    return Run_window(argc, argv, line, program);
 }

@@ -5,13 +5,16 @@
 #include <system_error>
 #include <vector>
 
+#include "calc/Text.h"
 #include "check/Check.h"
+#include "session/SystemClock.h"
 #ifdef TARNVIK_WITH_FRONTEND
 #include "frontend/services/QtRendering.h"
 #endif
 
 int main(int argc, char** argv) {
     std::ios::sync_with_stdio(false);
+    tarnvik::Set_decimal_sign(tarnvik::System_decimal_sign());
     std::error_code error;
     std::filesystem::path program = std::filesystem::canonical("/proc/self/exe", error);
     if (error) {

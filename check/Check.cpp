@@ -8,6 +8,7 @@
 #include "check/Options.h"
 #include "check/Status.h"
 #include "check/Tool.h"
+#include "data/Folders.h"
 #include "data/Startup.h"
 #include "ports/Rendering.h"
 
@@ -36,8 +37,7 @@ int Run_check(const std::vector<std::string>& arguments, const std::filesystem::
         if (options.report && rendering == nullptr) {
             throw UsageError{"--report needs the build with the window"};
         }
-        const std::filesystem::path folder =
-            options.data.empty() ? program_folder : std::filesystem::path{options.data};
+        const std::filesystem::path folder = Readable_folder(Find_data_folder(program_folder, options.data));
         const int status = Tool{std::move(options), in, out, err, rendering}.Run(folder);
         if (out.flush()) {
             return status;

@@ -36,7 +36,7 @@ Check a bolted timber connection to EN 1995-1-1 without a screen.
 Without a project the check is that of a new project; with projects each one is
 opened and checked.
 
-  --data DIR         folder of the three CSV files (default: the program's folder)
+  --data DIR         folder of the three CSV files (default: the window's own)
   --lang Eng|Nor     language of a new project (default: the setup file's)
   --set NAME=VALUE   write an input before the check; repeatable, in the order given
   --json             one JSON object a line instead of the readable summary

@@ -9,7 +9,7 @@
 namespace tarnvik {
 
 struct Options {
-    std::string data;                // --data; empty: the program's folder
+    std::string data;                // --data; empty: the one that the program finds
     std::optional<std::string> lang; // --lang
     std::vector<std::pair<std::string, std::string>> set;
     bool json{};

@@ -26,9 +26,8 @@ int Tool::Run(const std::filesystem::path& folder) {
         lang = *options_.lang;
     }
     const StartReport report = session_.Start(folder, lang);
-    if (report.setup_missing) {
-        err_ << "tarnvik-check: " << setup_file_read << " in " << folder.string()
-             << ": file not found; Norwegian texts and the partial factors 1.3, 1.25, 1.2, 1.25 stand in for it\n";
+    if (report.setup) {
+        err_ << "tarnvik-check: " << Setup_problem_text(*report.setup, folder, true) << "\n";
     }
     if (options_.batch) {
         return Batch();

@@ -1,5 +1,6 @@
 #include "data/Lines.h"
 
+#include <cstdint>
 #include <system_error>
 
 #include "calc/RuntimeFault.h"
@@ -9,14 +10,34 @@ namespace tarnvik {
 
 namespace fs = std::filesystem;
 
+namespace {
+
+constexpr std::uintmax_t largest = 64U * 1024U * 1024U;
+
+[[noreturn]] void Refuse(std::string_view reason, std::string_view where) {
+    throw RuntimeFault{fault_path_access, reason, where};
+}
+
+} // namespace
+
 std::ifstream Open_text(const fs::path& path, std::string_view where) {
     std::error_code error;
-    if (!fs::exists(path, error)) {
+    const fs::file_status status = fs::status(path, error);
+    if (status.type() == fs::file_type::not_found) {
         Raise(fault_file_not_found, where);
     }
+    if (error) {
+        Refuse("its folder cannot be entered", where);
+    }
+    if (status.type() != fs::file_type::regular) {
+        Refuse("not a regular file", where);
+    }
+    if (fs::file_size(path, error) > largest && !error) {
+        Refuse("larger than 64 MB", where);
+    }
     std::ifstream file{path, std::ios::binary};
-    if (!file || fs::is_directory(path, error)) {
-        Raise(fault_path_access, where);
+    if (!file) {
+        Refuse("no right to read it", where);
     }
     return file;
 }

@@ -11,8 +11,8 @@
 
 namespace tarnvik {
 
-// Opens a text file for reading. Errors, raised as from `where`: file not found (53), path or file cannot be accessed
-// (75).
+// Opens a text file for reading. Errors, raised as from `where`: file not found (53); path or file cannot be accessed
+// (75), with the reason: no right to read it, no regular file (a pipe or a device would never end), larger than 64 MB.
 std::ifstream Open_text(const std::filesystem::path& path, std::string_view where);
 
 // The next line of a Windows-1252 stream as UTF-8, without its end (CR LF, CR or LF); nothing at the end of the file.

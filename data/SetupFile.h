@@ -6,9 +6,11 @@
 
 #include <filesystem>
 #include <istream>
+#include <optional>
 #include <string>
 
 #include "calc/GlobalParameter.h"
+#include "calc/Words.h"
 
 namespace tarnvik {
 
@@ -21,9 +23,21 @@ void Read_setup(SetupRecord& setup, std::istream& file);
 // The same from the file in the program's folder. Errors: file not found (53), path or file cannot be accessed (75).
 void Read_setup(SetupRecord& setup, const std::filesystem::path& folder);
 
-// What stands in for a missing setup file: no language, so that the texts are Norwegian, and the partial factors of
-// EN 1995-1-1 table 2.3.
-void Default_setup(SetupRecord& setup);
+// What a setup file lacks at a start.
+struct SetupProblem {
+    Words text;          // what was expected and what stands there
+    int line{};          // of the file; 0: the file as a whole
+    std::string found{}; // the line as it stands
+    bool no_language{};  // the texts are Norwegian
+};
+
+// The same, with the partial factors of EN 1995-1-1 table 2.3 in the place of those that the file does not give above
+// 0, and told: a file that is missing or cannot be read, that is empty or cut, factors that are not above 0. Without a
+// language the texts are Norwegian.
+std::optional<SetupProblem> Load_setup(SetupRecord& setup, const std::filesystem::path& folder);
+
+// "Tarnviksetup.csv in /opt/tarnvik, line 5: ..." and what stands in.
+std::string Setup_problem_text(const SetupProblem& problem, const std::filesystem::path& folder, bool english);
 
 // The five lines of the file in Windows-1252; factors with the decimal sign of the regional settings.
 std::string Setup_text(const SetupRecord& setup);

@@ -1,7 +1,6 @@
 #include "data/Startup.h"
 
 #include "calc/RuntimeFault.h"
-#include "data/SetupFile.h"
 #include "data/StartValue.h"
 #include "data/Tables.h"
 
@@ -33,12 +32,7 @@ StartReport Start_state(ConnectionState& s, const fs::path& folder, std::optiona
     StartReport report;
     s.Lang = "Nor";
     s.Loading = true;
-    try {
-        Read_setup(s.Setup, folder);
-    } catch (const RuntimeFault&) {
-        report.setup_missing = true;
-        Default_setup(s.Setup);
-    }
+    report.setup = Load_setup(s.Setup, folder);
     Setup_to_state(s);
     if (lang) {
         s.Lang = *lang;

@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "calc/GlobalParameter.h"
+#include "data/SetupFile.h"
 
 namespace tarnvik {
 
@@ -21,7 +22,7 @@ struct DataFileError {
 };
 
 struct StartReport {
-    bool setup_missing{}; // the setup file could not be read: Norwegian texts and the standard's factors
+    std::optional<SetupProblem> setup; // what the setup file lacks, and what stands in
 };
 
 // Reads the setup file, the material and the profile table from the folder and runs StartValue. `lang` overrides the

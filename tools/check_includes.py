@@ -31,7 +31,7 @@ ROOMS = {
     "frontend/dialogs": {"ports", "calc", "data", "detail", "session", "frontend/painting", "frontend/controls"},
     "frontend/main": {"ports", "calc", "data", "report", "session", "frontend/painting", "frontend/controls",
                       "frontend/dialogs"},
-    "app": {"calc", "data", "check", "frontend/painting", "frontend/controls", "frontend/services", "frontend/main"},
+    "app": {"calc", "data", "session", "check", "frontend/painting", "frontend/controls", "frontend/services", "frontend/main"},
 }
 
 # Rooms that get by with the standard library and, in data, the calls of the system that saving needs.

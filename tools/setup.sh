@@ -7,10 +7,10 @@
 # shellcheck shell=bash disable=SC2034
 
 # Compiler and build system, GoogleTest, JSON, Qt 6 with PrintSupport and Svg, the fonts of the window and the report, and
-# what the tests read a printed report with.
+# what the tests read a printed report and make regional settings with.
 build_packages=(
     g++ cmake ninja-build libgtest-dev nlohmann-json3-dev
-    qt6-base-dev qt6-svg-dev fonts-liberation poppler-utils python3
+    qt6-base-dev qt6-svg-dev fonts-liberation poppler-utils python3 locales
 )
 
 # What CI needs beyond that: formatter, linter, fuzzer, benchmarks. Debian 12 has version 14 of the clang tools.

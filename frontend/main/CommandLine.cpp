@@ -1,14 +1,17 @@
 #include "frontend/main/CommandLine.h"
 
-#include <filesystem>
+#include <cstddef>
+#include <string_view>
 
 namespace tarnvik {
 
 CommandLine Parse_command_line(const std::vector<std::string>& arguments) {
+    constexpr std::string_view data_is = "--data=";
     CommandLine line;
     std::vector<std::string> projects;
     bool only_projects = false;
-    for (const std::string& argument : arguments) {
+    for (std::size_t i = 0; i < arguments.size(); ++i) {
+        const std::string& argument = arguments[i];
         if (only_projects || argument.empty() || argument[0] != '-') {
             projects.push_back(argument);
         } else if (argument == "--") {
@@ -17,10 +20,17 @@ CommandLine Parse_command_line(const std::vector<std::string>& arguments) {
             line.help = true;
         } else if (argument == "--version") {
             line.version = true;
+        } else if (argument == "--data" && i + 1 < arguments.size()) {
+            line.data = arguments[++i];
+        } else if (argument.starts_with(data_is) && argument.size() > data_is.size()) {
+            line.data = argument.substr(data_is.size());
         } else {
             line.error = "unknown option " + argument + "; see tarnvik --help";
             return line;
         }
+    }
+    if (!line.data.empty()) {
+        line.data = std::filesystem::absolute(line.data).string();
     }
     if (projects.size() > 1) {
         line.error = "expected one project, or none";
@@ -32,12 +42,17 @@ CommandLine Parse_command_line(const std::vector<std::string>& arguments) {
     return line;
 }
 
-std::string Command_line_help() {
-    return "Usage: tarnvik [PROJECT.tnvik]\n"
+std::string Command_line_help(const std::filesystem::path& data) {
+    return "Usage: tarnvik [OPTION]... [PROJECT.tnvik]\n"
            "Check a bolted timber connection to EN 1995-1-1 in a window.\n"
            "\n"
-           "  --help     this text\n"
-           "  --version  the version\n"
+           "  --data DIR  folder of the materials, the sections and the setup\n"
+           "  --help      this text\n"
+           "  --version   the version\n"
+           "\n"
+           "Data folder: " +
+           data.string() +
+           "\n"
            "\n"
            "Without a screen: tarnvik-check.\n"
            "\n"

@@ -70,8 +70,15 @@ void frmMain::Load() {
     Write_language(); // before the first sight of the window: no caption turns before the user's eyes
     show();
     const PassResult first = session_.First_pass();
-    if (report.setup_missing) {
-        Tell_missing_setup();
+    if (folders_.data_is_new) {
+        services_.boxes.Show((Is_english(s_)
+                                  ? "The data files were copied to your own folder, where they can be edited:\n"
+                                  : "Datafilene er kopiert til din egen mappe, der de kan endres:\n") +
+                                 folders_.data.string(),
+                             box_plain);
+    }
+    if (report.setup) {
+        services_.boxes.Show(Setup_problem_text(*report.setup, folders_.data, Is_english(s_)), box_exclamation);
     }
     if (const std::string finding = Start_finding(s_, first, folders_.data); !finding.empty()) {
         services_.boxes.Show(finding, box_exclamation);
@@ -83,13 +90,6 @@ void frmMain::Load() {
 
 void frmMain::Open(const std::string& path) {
     projects_.Open_path(path);
-}
-
-void frmMain::Tell_missing_setup() {
-    services_.boxes.Show(
-        std::string{setup_file_read} + " in " + folders_.data.string() +
-            ": file not found.\nNorwegian texts and the partial factors 1.3, 1.25, 1.2, 1.25 are used.",
-        box_exclamation);
 }
 
 void frmMain::StartValue_controls() {

@@ -75,7 +75,6 @@ private:
     void Show_project();
     void Set_caption();
     void Set_caption_of(std::string_view control, std::string_view caption);
-    void Tell_missing_setup();
 
     // Runs one of the program's own windows as a modal one. The box in editing is left first, and one that is refused
     // keeps the window from opening; afterwards the focus is where an activation of the main window puts it.

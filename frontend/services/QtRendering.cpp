@@ -12,7 +12,7 @@
 #include "frontend/painting/PictureStore.h"
 #include "frontend/painting/QtPrintTarget.h"
 #include "frontend/painting/Texts.h"
-#include "frontend/services/QtServices.h"
+#include "session/SystemClock.h"
 
 namespace tarnvik {
 
@@ -89,7 +89,7 @@ void QtRendering::Write_report(const std::filesystem::path& file, const std::str
                                const std::function<void(PrintTarget&, const Moment&)>& draw) {
     Start();
     const std::unique_ptr<PrintTarget> target = Pdf_target(file, title);
-    draw(*target, QtClock{}.Now());
+    draw(*target, SystemClock{}.Now());
 }
 
 } // namespace tarnvik

@@ -1,12 +1,10 @@
 #include "frontend/services/QtServices.h"
 
 #include <QApplication>
-#include <QDateTime>
 #include <QDesktopServices>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
-#include <QLocale>
 #include <QMessageBox>
 #include <QPageSize>
 #include <QPrintDialog>
@@ -19,7 +17,6 @@
 
 #include "frontend/painting/QtPrintTarget.h"
 #include "frontend/painting/Texts.h"
-#include "session/SystemClock.h"
 
 namespace tarnvik {
 
@@ -140,15 +137,6 @@ std::unique_ptr<PrintTarget> QtPrinterService::Show_printer(const PrinterRequest
         return Pdf_target(printer->outputFileName().toStdString(), request.document, printer->pageLayout());
     }
     return Printer_target(std::move(printer));
-}
-
-Moment QtClock::Now() {
-    const QLocale locale = QLocale::system();
-    if (locale.language() == QLocale::C) { // whose short form of the toolkit is a long one
-        return SystemClock{}.Now();
-    }
-    const QDateTime now = QDateTime::currentDateTime();
-    return {U(locale.toString(now.date(), QLocale::ShortFormat)), U(now.time().toString(QStringLiteral("HH:mm:ss")))};
 }
 
 bool QtDocumentOpener::Open_file(const std::string& path) {

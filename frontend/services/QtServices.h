@@ -8,7 +8,6 @@
 #include <functional>
 #include <string>
 
-#include "ports/Clock.h"
 #include "ports/Services.h"
 #include "ports/SettingsStore.h"
 
@@ -51,12 +50,6 @@ public:
 class QtPrinterService : public PrinterService {
 public:
     std::unique_ptr<PrintTarget> Show_printer(const PrinterRequest& request) override;
-};
-
-// The system's clock, the date in the short form of the system's regional settings.
-class QtClock : public Clock {
-public:
-    Moment Now() override;
 };
 
 class QtDocumentOpener : public DocumentOpener {

@@ -12,6 +12,7 @@
 
 #include <nlohmann/json.hpp>
 
+#include "tests/support/Regions.h"
 #include "tests/support/Tool.h"
 
 #if defined(__has_feature)
@@ -105,6 +106,41 @@ TEST_F(Program, a_link_to_the_program_finds_its_data_files) {
     const ProgramRun run = Start({"--json"}, {}, {}, (folder / "tarnvik-check").string());
     EXPECT_EQ(run.err, "");
     EXPECT_EQ(run.Object()["end"], "normal");
+}
+
+TEST_F(Program, texts_follow_the_regional_settings_and_the_numbers_of_json_do_not) {
+    const test::Region region{"nb_NO"};
+    if (!region.Made()) {
+        GTEST_SKIP() << "localedef has no nb_NO here";
+    }
+    const ProgramRun run = Start({"--json", "--with", "screen"});
+    EXPECT_EQ(run.Object()["screen"]["Txt_b1"]["caption"], "34,0");
+    EXPECT_EQ(run.Object()["state"]["Txt_b1"], "34,0");
+    EXPECT_NE(run.out.find("\"fc90k\":2.3,"), std::string::npos);
+}
+
+TEST_F(Program, an_installed_tool_reads_the_users_own_data_and_creates_nothing) {
+    const fs::path installed = folder / "lib";
+    fs::create_directory(installed);
+    fs::copy_file(program, installed / "tarnvik-check");
+    test::Write_file(installed / "tarnvik.folder", std::string{TARNVIK_DATA_DIR} + "\n");
+    const char* const former = std::getenv("XDG_DATA_HOME");
+    const std::string kept = former == nullptr ? "" : former;
+    setenv("XDG_DATA_HOME", (folder / "home").c_str(), 1);
+    const std::string tool = (installed / "tarnvik-check").string();
+    EXPECT_EQ(Start({"--json"}, {}, {}, tool).Object()["state"]["Mat_count"], 36);
+    EXPECT_FALSE(fs::exists(folder / "home"));
+    fs::create_directories(folder / "home" / "tarnvik");
+    for (const char* file : {"TarnvikMaterial.csv", "TarnvikProfile.csv"}) {
+        fs::copy_file(fs::path{TARNVIK_DATA_DIR} / file, folder / "home" / "tarnvik" / file);
+    }
+    test::Write_file(folder / "home" / "tarnvik" / "Tarnviksetup.csv", "a\nLanguage;Nor\nb\nc\n1.5;1.5;1.5;1.5\n");
+    EXPECT_EQ(Start({"--json"}, {}, {}, tool).Object()["state"]["gm"], 1.5);
+    if (kept.empty()) {
+        unsetenv("XDG_DATA_HOME");
+    } else {
+        setenv("XDG_DATA_HOME", kept.c_str(), 1);
+    }
 }
 
 TEST_F(Program, the_same_results_as_within_this_process) {

@@ -7,11 +7,9 @@
 #include <unistd.h>
 
 #include <csignal>
-#include <cstdlib>
 #include <memory>
 #include <vector>
 
-#include "data/Folders.h"
 #include "tests/support/Files.h"
 
 namespace tarnvik {
@@ -127,21 +125,6 @@ TEST_F(Recovery, the_project_of_the_work_follows_the_project_file) {
     EXPECT_EQ(Recovered_project("PROJECT" + Recovery_tail("/a\nb.tnvik")), "/a\nb.tnvik");
     EXPECT_EQ(Recovered_project("PROJECT"), "");
     EXPECT_EQ(Recovered_project(""), "");
-}
-
-TEST(Folders, the_state_folder_follows_the_base_directories) {
-    const char* home = std::getenv("HOME");
-    const std::string former = home == nullptr ? "" : home;
-    setenv("HOME", "/home/anna", 1);
-    setenv("XDG_STATE_HOME", "/var/anna", 1);
-    EXPECT_EQ(User_state_folder(), "/var/anna/tarnvik");
-    setenv("XDG_STATE_HOME", "not/absolute", 1);
-    EXPECT_EQ(User_state_folder(), "/home/anna/.local/state/tarnvik");
-    unsetenv("XDG_STATE_HOME");
-    EXPECT_EQ(User_state_folder(), "/home/anna/.local/state/tarnvik");
-    unsetenv("HOME");
-    EXPECT_EQ(User_state_folder(), "");
-    setenv("HOME", former.c_str(), 1);
 }
 
 } // namespace

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <sys/stat.h>
+
 #include <memory>
 #include <sstream>
 
@@ -155,12 +157,85 @@ TEST(SetupFile, failures_have_numbers) {
     EXPECT_EQ(Fault_of([&] { Write_setup(setup, folder / "missing"); }), fault_path_not_found);
 }
 
-TEST(SetupFile, what_stands_in_for_a_missing_file) {
-    SetupRecord setup = Read(delivered);
-    Default_setup(setup);
+// A setup file as a start finds it.
+class LoadedSetup : public testing::Test {
+protected:
+    void Load(std::string_view bytes) {
+        Write_file(folder / setup_file_read, bytes);
+        problem = Load_setup(setup, folder.Path());
+    }
+    std::string Text(bool english) const {
+        return problem ? Setup_problem_text(*problem, "/f", english) : std::string{};
+    }
+
+    TemporaryFolder folder;
+    SetupRecord setup;
+    std::optional<SetupProblem> problem;
+};
+
+TEST_F(LoadedSetup, what_stands_in_for_a_missing_file) {
+    setup = Read(delivered);
+    problem = Load_setup(setup, folder.Path());
     EXPECT_EQ(setup.Language.View(), "   "); // which gives Norwegian texts
     EXPECT_EQ(setup.Setup_line[0], "");
     Expect_factors(setup, 1.3F, 1.25F, 1.2F, 1.25F);
+    EXPECT_EQ(Text(true), "Tarnviksetup.csv in /f: file not found.\nNorwegian texts and the partial factors 1.3, 1.25, "
+                          "1.2, 1.25 are used.");
+    EXPECT_EQ(Text(false), "Tarnviksetup.csv i /f: filen finnes ikke.\nNorske tekster og partialfaktorene 1.3, 1.25, "
+                           "1.2, 1.25 brukes.");
+}
+
+TEST_F(LoadedSetup, a_whole_file_has_no_problem) {
+    Load(delivered);
+    EXPECT_FALSE(problem);
+    Load("a\r\nLanguage;Nor\r\nb\r\nc\r\n1.5;1.6;1.7;1.8"); // no last line end
+    EXPECT_FALSE(problem);
+    Expect_factors(setup, 1.5F, 1.6F, 1.7F, 1.8F);
+}
+
+TEST_F(LoadedSetup, an_empty_file_is_told_as_that) {
+    Load("");
+    EXPECT_TRUE(Text(true).starts_with("Tarnviksetup.csv in /f: the file is empty.\nNorwegian texts")) << Text(true);
+    Expect_factors(setup, 1.3F, 1.25F, 1.2F, 1.25F);
+}
+
+TEST_F(LoadedSetup, a_cut_file_is_told_by_its_last_line_and_keeps_its_language) {
+    Load("a\r\nLanguage;Eng\r\nb\r\n");
+    EXPECT_TRUE(Text(true).starts_with("Tarnviksetup.csv in /f, line 3: expected five lines, the file ends here.\n"
+                                       "The partial factors"))
+        << Text(true);
+    EXPECT_EQ(setup.Language.View(), "Eng");
+    Expect_factors(setup, 1.3F, 1.25F, 1.2F, 1.25F);
+}
+
+TEST_F(LoadedSetup, shifted_lines_are_told_by_the_line_of_the_factors) {
+    Load("new\r\na\r\nLanguage;Eng\r\nb\r\ngam_timb;gam_lam;gam_kerto;gam_k-bjelke\r\n1.3;1.25;1.2;1.25;\r\n");
+    EXPECT_TRUE(Text(false).starts_with("Tarnviksetup.csv i /f, linje 5: ventet fire partialfaktorer over 0, fant "
+                                        "\"gam_timb;gam_lam;gam_kerto;gam_k-bjelke\"."))
+        << Text(false);
+    Expect_factors(setup, 1.3F, 1.25F, 1.2F, 1.25F);
+}
+
+TEST_F(LoadedSetup, a_factor_that_is_not_above_0_is_replaced_and_the_others_stay) {
+    Load("a\r\nLanguage;Eng\r\nb\r\nc\r\n1.5;0;-2;1.8;\r\n");
+    ASSERT_TRUE(problem);
+    EXPECT_EQ(problem->line, 5);
+    Expect_factors(setup, 1.5F, 1.25F, 1.2F, 1.8F);
+}
+
+TEST_F(LoadedSetup, what_is_no_regular_file_or_too_large_is_refused_at_once) {
+    std::filesystem::create_directory(folder / setup_file_read);
+    problem = Load_setup(setup, folder.Path());
+    EXPECT_TRUE(Text(true).starts_with("Tarnviksetup.csv in /f: not a regular file.")) << Text(true);
+    std::filesystem::remove(folder / setup_file_read);
+    ASSERT_EQ(mkfifo((folder / setup_file_read).c_str(), 0600), 0); // nobody writes to it: an open would never end
+    problem = Load_setup(setup, folder.Path());
+    EXPECT_TRUE(Text(false).starts_with("Tarnviksetup.csv i /f: ikke en vanlig fil.")) << Text(false);
+    std::filesystem::remove(folder / setup_file_read);
+    Load("");
+    std::filesystem::resize_file(folder / setup_file_read, 64U * 1024U * 1024U + 1U); // takes no room on the disk
+    problem = Load_setup(setup, folder.Path());
+    EXPECT_TRUE(Text(true).starts_with("Tarnviksetup.csv in /f: larger than 64 MB.")) << Text(true);
 }
 
 TEST(SetupFile, working_values_and_record_are_copied_both_ways) {

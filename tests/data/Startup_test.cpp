@@ -55,7 +55,7 @@ protected:
 
 TEST_F(Startup, the_delivered_files_give_a_new_project) {
     const StartReport report = Start();
-    EXPECT_FALSE(report.setup_missing);
+    EXPECT_FALSE(report.setup);
     EXPECT_EQ(s.Lang.View(), "Eng");
     EXPECT_EQ(s.Prosjekt, "Project 1"); // the start values follow the language of the setup file
     EXPECT_EQ(s.File_name, "New File");
@@ -89,7 +89,7 @@ TEST_F(Startup, a_language_that_is_asked_for_overrides_the_setup_file) {
 TEST_F(Startup, without_a_setup_file_texts_are_norwegian_and_factors_the_standards) {
     fs::remove(folder / setup_file_read);
     const StartReport report = Start();
-    EXPECT_TRUE(report.setup_missing);
+    EXPECT_TRUE(report.setup);
     EXPECT_FALSE(Is_english(s));
     EXPECT_EQ(s.gm_T, 1.3F);
     EXPECT_EQ(s.gm_L, 1.25F);
@@ -102,7 +102,7 @@ TEST_F(Startup, without_a_setup_file_texts_are_norwegian_and_factors_the_standar
 
 TEST_F(Startup, the_file_that_saving_writes_is_not_read) {
     fs::rename(folder / setup_file_read, folder / setup_file_written);
-    EXPECT_TRUE(Start().setup_missing);
+    EXPECT_TRUE(Start().setup.has_value());
 }
 
 TEST_F(Startup, a_missing_table_is_named_with_its_folder) {

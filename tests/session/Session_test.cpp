@@ -22,7 +22,7 @@ protected:
 
 TEST_F(SessionTest, start_gives_a_new_project_that_loads_until_its_first_pass) {
     const StartReport report = session.Start(TARNVIK_DATA_DIR, "Eng");
-    EXPECT_FALSE(report.setup_missing);
+    EXPECT_FALSE(report.setup);
     EXPECT_EQ(session.Folder(), TARNVIK_DATA_DIR);
     EXPECT_TRUE(s.Loading);
     EXPECT_EQ(session.First_pass().end, PassEnd::normal);

@@ -23,7 +23,17 @@ TEST(CommandLine, answers_help_and_version_and_refuses_the_rest) {
     EXPECT_TRUE(Parse_command_line({"--version"}).version);
     EXPECT_EQ(Parse_command_line({"--wrong"}).error, "unknown option --wrong; see tarnvik --help");
     EXPECT_NE(Parse_command_line({"-x"}).error, "");
-    EXPECT_NE(Command_line_help().find("tarnvik [PROJECT.tnvik]"), std::string::npos);
+    const std::string help = Command_line_help("/home/anna/data");
+    EXPECT_NE(help.find("tarnvik [OPTION]... [PROJECT.tnvik]"), std::string::npos);
+    EXPECT_NE(help.find("/home/anna/data"), std::string::npos);
+}
+
+TEST(CommandLine, takes_the_data_folder_in_both_forms) {
+    EXPECT_EQ(Parse_command_line({"--data", "/d", "a.tnvik"}).data, "/d");
+    EXPECT_EQ(Parse_command_line({"--data=/d"}).data, "/d");
+    EXPECT_EQ(Parse_command_line({"a.tnvik"}).data, "");
+    EXPECT_NE(Parse_command_line({"--data"}).error, "");
+    EXPECT_NE(Parse_command_line({"--data="}).error, "");
 }
 
 class OpenedProject : public WindowTest {};

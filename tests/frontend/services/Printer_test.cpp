@@ -44,11 +44,5 @@ TEST_F(PrinterDialog, cancelled_gives_no_job) {
     EXPECT_EQ(service.Show_printer({1048580, "Report"}), nullptr);
 }
 
-TEST(QtClock, time_has_eight_characters) {
-    const Moment now = QtClock{}.Now();
-    EXPECT_EQ(now.time.size(), 8U);
-    EXPECT_FALSE(now.date.empty());
-}
-
 } // namespace
 } // namespace tarnvik::test

@@ -1,0 +1,189 @@
+#include "data/KeptCopy.h"
+
+#include <array>
+#include <cerrno>
+#include <system_error>
+#include <utility>
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include "data/FileNames.h"
+#include "data/FileRights.h"
+#include "data/TemporaryFile.h"
+
+namespace tarnvik {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr mode_t closed_file = 0600;
+constexpr mode_t closed_folder = 0700;
+
+void Make_folder(const fs::path& folder) {
+    if (fs::is_directory(folder)) {
+        return;
+    }
+    Make_folder(folder.parent_path());
+    if (mkdir(folder.c_str(), closed_folder) != 0 && errno != EEXIST) {
+        Throw_error();
+    }
+    Flush_folder(folder.parent_path(), Open_file(folder, O_RDONLY | O_DIRECTORY));
+}
+
+// The file's folder is there: whatever is missing here, it is no path of the user's that was not found.
+fs::path State_folder_made() {
+    const fs::path folder = State_folder();
+    if (folder.empty()) {
+        Throw_error(EACCES);
+    }
+    try {
+        Make_folder(folder);
+    } catch (const std::system_error& error) {
+        Throw_error(error.code() == std::errc::no_space_on_device ? ENOSPC : EACCES);
+    }
+    return folder;
+}
+
+// Whole and on the disk, but for its name.
+void Fill(TemporaryFile& copy, const SystemFile& former) {
+    Copy_from(former, 0, copy.File());
+    Copy_rights_or_fewer(former, copy.File());
+    Flush(copy.File());
+}
+
+// `path` names the file that is copied, in the folder where the copy goes.
+fs::path Keep_copy_at(const SystemFile& former, const fs::path& path) {
+    TemporaryFile copy{path, closed_file};
+    Fill(copy, former);
+    for (int number = 1;; ++number) {
+        const fs::path kept = Folder_of(path) / Kept_name(path.filename().native(), number);
+        if (copy.Take_free(kept)) {
+            Flush_folder(Folder_of(path), copy.File());
+            copy.Close();
+            return kept;
+        }
+    }
+}
+
+void Make_recovery_copy_at(const SystemFile& former, const fs::path& path) {
+    TemporaryFile copy{path, closed_file};
+    Fill(copy, former);
+    if (!copy.Take_free(path)) {
+        Throw_error(EPERM); // of somebody who is not trusted with the file
+    }
+    Flush_folder(Folder_of(path), copy.File());
+    copy.Close();
+}
+
+fs::path Beside(const fs::path& target) {
+    return Folder_of(target) / Recovery_name(target.filename().native());
+}
+
+std::array<fs::path, 2> Recovery_paths(const fs::path& target) {
+    const fs::path folder = State_folder();
+    return {Beside(target), folder.empty() ? fs::path{} : folder / Recovery_name_of_path(target)};
+}
+
+// Where everybody may make files but nobody remove another's, a copy made by anybody has no say in the file.
+bool Is_trusted(const SystemFile& copy, const SystemFile& former, const fs::path& folder) {
+    const struct stat status = Status_of(copy);
+    struct stat around {};
+    if (!S_ISREG(status.st_mode) || stat(folder.c_str(), &around) != 0) {
+        return false;
+    }
+    return status.st_uid == geteuid() || status.st_uid == 0 || status.st_uid == Status_of(former).st_uid ||
+           (around.st_mode & static_cast<mode_t>(S_ISVTX)) == 0;
+}
+
+bool Is_there(const fs::path& path) {
+    struct stat status {};
+    return !path.empty() && lstat(path.c_str(), &status) == 0 && S_ISREG(status.st_mode);
+}
+
+} // namespace
+
+bool Folder_refuses(int error) {
+    constexpr std::array refusals{EACCES, EPERM, EROFS, EBUSY, EXDEV, ENAMETOOLONG};
+    for (const int refusal : refusals) {
+        if (error == refusal) {
+            return true;
+        }
+    }
+    return false;
+}
+
+fs::path Keep_copy(const SystemFile& former, const fs::path& target) {
+    try {
+        return Keep_copy_at(former, target);
+    } catch (const std::system_error& error) {
+        if (!Folder_refuses(error.code().value())) {
+            throw;
+        }
+    }
+    return Keep_copy_at(former, State_folder_made() / target.filename());
+}
+
+RecoveryCopy Make_recovery_copy(const SystemFile& former, const fs::path& target) {
+    fs::path path = Beside(target);
+    try {
+        Make_recovery_copy_at(former, path);
+    } catch (const std::system_error& error) {
+        if (!Folder_refuses(error.code().value())) {
+            throw;
+        }
+        path = State_folder_made() / Recovery_name_of_path(target);
+        Make_recovery_copy_at(former, path);
+    }
+    SystemFile file = Open_file(path, O_RDONLY | O_NOFOLLOW);
+    if (!file) {
+        Throw_error();
+    }
+    return {std::move(path), std::move(file)};
+}
+
+std::optional<RecoveryCopy> Find_recovery_copy(const SystemFile& former, const fs::path& target) {
+    for (const fs::path& path : Recovery_paths(target)) {
+        if (!Is_there(path)) {
+            continue;
+        }
+        SystemFile file = Open_file(path, O_RDONLY | O_NOFOLLOW);
+        if (!file) {
+            Throw_error();
+        }
+        if (Is_trusted(file, former, Folder_of(path))) {
+            return RecoveryCopy{path, std::move(file)};
+        }
+    }
+    return {};
+}
+
+bool Has_recovery_copy(const fs::path& target) {
+    const auto paths = Recovery_paths(target);
+    return Is_there(paths[0]) || Is_there(paths[1]);
+}
+
+void Remove_recovery_copy(const RecoveryCopy& copy) {
+    if (unlink(copy.path.c_str()) != 0) {
+        Throw_error();
+    }
+    Flush_folder(Folder_of(copy.path), copy.file);
+}
+
+std::optional<fs::path> Retire_recovery_copy(const fs::path& target) {
+    for (const fs::path& path : Recovery_paths(target)) {
+        if (!Is_there(path)) {
+            continue;
+        }
+        for (int number = 1;; ++number) {
+            const fs::path kept = Folder_of(path) / Kept_name(target.filename().native(), number);
+            if (Rename_to_free(path, kept)) {
+                return kept;
+            }
+        }
+    }
+    return {};
+}
+
+} // namespace tarnvik

@@ -34,6 +34,7 @@ void Restore(const SystemFile& former, const RecoveryCopy& copy) {
 void Write_in_place(const SystemFile& former, const fs::path& target, std::string_view content, OldTail tail) {
     const RecoveryCopy copy = Make_recovery_copy(former, target);
     try {
+        Flush_folder(Folder_of(copy.path), copy.file);
         Overwrite(former, content, tail);
     } catch (...) {
         Restore(former, copy);

@@ -1,5 +1,6 @@
 #include "data/KeptCopy.h"
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <system_error>
@@ -67,14 +68,14 @@ fs::path Keep_copy_at(const SystemFile& former, const fs::path& path) {
     }
 }
 
-void Make_recovery_copy_at(const SystemFile& former, const fs::path& path) {
+// `path` as above; `recovery` is the name that the copy gets.
+RecoveryCopy Make_recovery_copy_at(const SystemFile& former, const fs::path& path, const fs::path& recovery) {
     TemporaryFile copy{path, closed_file};
     Fill(copy, former);
-    if (!copy.Take_free(path)) {
+    if (!copy.Take_free(recovery)) {
         Throw_error(EPERM); // of somebody who is not trusted with the file
     }
-    Flush_folder(Folder_of(path), copy.File());
-    copy.Close();
+    return {recovery, copy.Take_file()};
 }
 
 fs::path Beside(const fs::path& target) {
@@ -90,28 +91,34 @@ std::array<fs::path, 2> Recovery_paths(const fs::path& target) {
 bool Is_trusted(const SystemFile& copy, const SystemFile& former, const fs::path& folder) {
     const struct stat status = Status_of(copy);
     struct stat around {};
-    if (!S_ISREG(status.st_mode) || stat(folder.c_str(), &around) != 0) {
-        return false;
+    if (stat(folder.c_str(), &around) != 0) {
+        Throw_error();
     }
     return status.st_uid == geteuid() || status.st_uid == 0 || status.st_uid == Status_of(former).st_uid ||
            (around.st_mode & static_cast<mode_t>(S_ISVTX)) == 0;
 }
 
+// A folder that cannot be looked into holds no copy of ours.
 bool Is_there(const fs::path& path) {
+    constexpr std::array absences{ENOENT, ENOTDIR, EACCES, ENAMETOOLONG, ELOOP};
     struct stat status {};
-    return !path.empty() && lstat(path.c_str(), &status) == 0 && S_ISREG(status.st_mode);
+    if (path.empty()) {
+        return false;
+    }
+    if (lstat(path.c_str(), &status) != 0) {
+        if (std::find(absences.begin(), absences.end(), errno) == absences.end()) {
+            Throw_error();
+        }
+        return false;
+    }
+    return S_ISREG(status.st_mode);
 }
 
 } // namespace
 
 bool Folder_refuses(int error) {
     constexpr std::array refusals{EACCES, EPERM, EROFS, EBUSY, EXDEV, ENAMETOOLONG};
-    for (const int refusal : refusals) {
-        if (error == refusal) {
-            return true;
-        }
-    }
-    return false;
+    return std::find(refusals.begin(), refusals.end(), error) != refusals.end();
 }
 
 fs::path Keep_copy(const SystemFile& former, const fs::path& target) {
@@ -126,21 +133,15 @@ fs::path Keep_copy(const SystemFile& former, const fs::path& target) {
 }
 
 RecoveryCopy Make_recovery_copy(const SystemFile& former, const fs::path& target) {
-    fs::path path = Beside(target);
     try {
-        Make_recovery_copy_at(former, path);
+        return Make_recovery_copy_at(former, target, Beside(target));
     } catch (const std::system_error& error) {
         if (!Folder_refuses(error.code().value())) {
             throw;
         }
-        path = State_folder_made() / Recovery_name_of_path(target);
-        Make_recovery_copy_at(former, path);
     }
-    SystemFile file = Open_file(path, O_RDONLY | O_NOFOLLOW);
-    if (!file) {
-        Throw_error();
-    }
-    return {std::move(path), std::move(file)};
+    const fs::path folder = State_folder_made();
+    return Make_recovery_copy_at(former, folder / target.filename(), folder / Recovery_name_of_path(target));
 }
 
 std::optional<RecoveryCopy> Find_recovery_copy(const SystemFile& former, const fs::path& target) {

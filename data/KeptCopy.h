@@ -23,6 +23,8 @@ struct RecoveryCopy {
     std::filesystem::path path;
     SystemFile file;
 };
+
+// The name is not flushed yet.
 RecoveryCopy Make_recovery_copy(const SystemFile& former, const std::filesystem::path& target);
 
 // The one that is there, and that belongs to somebody who may be trusted with the file.

@@ -56,13 +56,13 @@ void Remove_strays(const fs::path& target) {
 
 } // namespace
 
-TemporaryFile::TemporaryFile(const fs::path& target, mode_t mode) {
+// By way of the empty one, so that also one whose making fails half-way is removed.
+TemporaryFile::TemporaryFile(const fs::path& target, mode_t mode) : TemporaryFile() {
     constexpr int most_tries = 100;
     static std::atomic<int> next_number; // never twice: whoever removes a stray by its name removes no later file
     Remove_strays(target);
     for (int i = 0; i < most_tries; ++i) {
-        path_ = Folder_of(target) / Temporary_name(target.filename().native(), next_number++);
-        if (Create(mode)) {
+        if (Create(Folder_of(target) / Temporary_name(target.filename().native(), next_number++), mode)) {
             return;
         }
     }
@@ -70,19 +70,20 @@ TemporaryFile::TemporaryFile(const fs::path& target, mode_t mode) {
 }
 
 // False where the name is taken, or where another process has held the file for a stray before it was locked.
-bool TemporaryFile::Create(mode_t mode) {
-    file_ = Open_file(path_, O_RDWR | O_CREAT | O_EXCL | O_NOFOLLOW, mode);
+bool TemporaryFile::Create(const fs::path& path, mode_t mode) {
+    file_ = Open_file(path, O_RDWR | O_CREAT | O_EXCL | O_NOFOLLOW, mode);
     if (!file_) {
         if (errno != EEXIST) {
             Throw_error();
         }
         return false;
     }
+    path_ = path;
     return Try_lock(file_) != LockResult::busy && Status_of(file_).st_nlink > 0;
 }
 
 TemporaryFile::~TemporaryFile() {
-    if (!renamed_) {
+    if (!renamed_ && !path_.empty()) {
         unlink(path_.c_str());
     }
 }

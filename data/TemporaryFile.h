@@ -2,7 +2,7 @@
 #pragma once
 
 #include <filesystem>
-#include <string_view>
+#include <utility>
 
 #include "data/SystemFile.h"
 
@@ -29,11 +29,13 @@ public:
 
     // After it has taken its place.
     void Close() { file_.Close(); }
+    SystemFile Take_file() { return std::move(file_); }
 
 private:
-    bool Create(mode_t mode);
+    TemporaryFile() = default;
+    bool Create(const std::filesystem::path& path, mode_t mode);
 
-    std::filesystem::path path_;
+    std::filesystem::path path_; // once it exists
     SystemFile file_;
     bool renamed_{};
 };

@@ -52,6 +52,46 @@ TEST(SafeWriteInPlace, a_full_disk_leaves_the_former_content_and_no_other_file) 
     EXPECT_EQ(failures, 0);
 }
 
+// Whatever room a disk has left, page by page, and however the file is written: the save is done, or refused as a
+// whole.
+TEST(SafeWriteInPlace, no_room_left_on_a_disk_makes_a_third_state) {
+    const TemporaryFolder folder;
+    const int failures = With_own_mounts([&] {
+        const std::string former(12000, 'f');
+        const std::string content(16000, 'n');
+        int done = 0;
+        int refused = 0;
+        for (int page = 0; page < 32; ++page) {
+            const bool linked = page % 2 == 1;
+            if (!Mount_small_disk(folder.Path())) {
+                return no_mount;
+            }
+            Write_file(folder / "a", former);
+            Write_file(folder / "filling", std::string(static_cast<std::size_t>(page / 2) * 4096, 'x'));
+            if (linked) {
+                fs::create_hard_link(folder / "a", folder / "b");
+            }
+            const int fault = Fault_of([&] { Safe_write(folder / "a", content, {OldTail::keep, true, {}}, "Test"); });
+            const std::size_t others = linked ? 2 : 1; // the filling, and the link
+            EXPECT_TRUE(fault == 0 || fault == fault_disk_full) << fault;
+            EXPECT_EQ(Read_file(folder / "a"), fault == 0 ? content : former);
+            const bool kept = fs::exists(folder / "a~");
+            EXPECT_TRUE(kept || fault != 0);
+            EXPECT_EQ(kept ? Read_file(folder / "a~") : former, former);
+            EXPECT_EQ(folder.Files(), others + (kept ? 2U : 1U));
+            (fault == 0 ? done : refused) += 1;
+            umount(folder.Path().c_str());
+        }
+        EXPECT_GT(done, 5);
+        EXPECT_GT(refused, 5);
+        return test::Failures();
+    });
+    if (failures == no_mount) {
+        GTEST_SKIP() << "no small file system can be mounted here";
+    }
+    EXPECT_EQ(failures, 0);
+}
+
 TEST(SafeWriteInPlace, a_disk_without_room_for_the_recovery_copy_leaves_the_file_alone) {
     const TemporaryFolder folder;
     const int failures = With_own_mounts([&] {

@@ -35,7 +35,7 @@ void Make_folder(const fs::path& folder) {
 
 // The file's folder is there: whatever is missing here, it is no path of the user's that was not found.
 fs::path State_folder_made() {
-    const fs::path folder = State_folder();
+    fs::path folder = State_folder();
     if (folder.empty()) {
         Throw_error(EACCES);
     }
@@ -59,7 +59,7 @@ fs::path Keep_copy_at(const SystemFile& former, const fs::path& path) {
     TemporaryFile copy{path, closed_file};
     Fill(copy, former);
     for (int number = 1;; ++number) {
-        const fs::path kept = Folder_of(path) / Kept_name(path.filename().native(), number);
+        fs::path kept = Folder_of(path) / Kept_name(path.filename().native(), number);
         if (copy.Take_free(kept)) {
             Flush_folder(Folder_of(path), copy.File());
             copy.Close();
@@ -178,7 +178,7 @@ std::optional<fs::path> Retire_recovery_copy(const fs::path& target) {
             continue;
         }
         for (int number = 1;; ++number) {
-            const fs::path kept = Folder_of(path) / Kept_name(target.filename().native(), number);
+            fs::path kept = Folder_of(path) / Kept_name(target.filename().native(), number);
             if (Rename_to_free(path, kept)) {
                 return kept;
             }

@@ -3,7 +3,6 @@
 #include <array>
 #include <charconv>
 #include <cstdint>
-#include <cstdlib>
 
 #include <unistd.h>
 
@@ -105,24 +104,14 @@ std::string Kept_name(std::string_view name, int number) {
     return std::string{Cut(name, longest_name - end.size())} + end;
 }
 
-std::string Recovery_name(std::string_view name) {
-    constexpr std::string_view end = ".recovery";
+std::string Undo_name(std::string_view name) {
+    constexpr std::string_view end = ".undo";
     return "." + std::string{Cut(name, longest_name - 1 - end.size())} + std::string{end};
 }
 
-std::string Recovery_name_of_path(const fs::path& path) {
-    const std::string end = "." + Hexadecimal(Digest_of(path.native())) + ".recovery";
+std::string Undo_name_of_path(const fs::path& path) {
+    const std::string end = "." + Hexadecimal(Digest_of(path.native())) + ".undo";
     return std::string{Cut(path.filename().native(), longest_name - end.size())} + end;
-}
-
-fs::path State_folder() {
-    if (const char* state = std::getenv("XDG_STATE_HOME"); state != nullptr && *state == '/') {
-        return fs::path{state} / "tarnvik";
-    }
-    if (const char* home = std::getenv("HOME"); home != nullptr && *home == '/') {
-        return fs::path{home} / ".local/state/tarnvik";
-    }
-    return {};
 }
 
 } // namespace tarnvik

@@ -26,14 +26,11 @@ TemporaryOwner Owner_of(std::string_view temporary, std::string_view name);
 // "NAME~", "NAME~2", "NAME~3": a content that NAME had.
 std::string Kept_name(std::string_view name, int number);
 
-// ".NAME.recovery": what NAME held before it was written in place.
-std::string Recovery_name(std::string_view name);
+// ".NAME.undo": what NAME held before it was written in place.
+std::string Undo_name(std::string_view name);
 
-// The same in the folder for what finds no place beside its file: "NAME.HASH.recovery", the hash that of the whole
+// The same in the folder for what finds no place beside its file: "NAME.HASH.undo", the hash that of the whole
 // path.
-std::string Recovery_name_of_path(const std::filesystem::path& path);
-
-// $XDG_STATE_HOME/tarnvik, or .local/state/tarnvik in the home folder; empty where there is neither.
-std::filesystem::path State_folder();
+std::string Undo_name_of_path(const std::filesystem::path& path);
 
 } // namespace tarnvik

@@ -23,7 +23,7 @@ void Overwrite(const SystemFile& former, std::string_view content, OldTail tail)
     Flush(former);
 }
 
-void Restore(const SystemFile& former, const RecoveryCopy& copy) {
+void Restore(const SystemFile& former, const UndoCopy& copy) {
     Copy_from(copy.file, 0, former);
     Cut_at(former, static_cast<std::uint64_t>(Status_of(copy.file).st_size));
     Flush(former);
@@ -32,20 +32,20 @@ void Restore(const SystemFile& former, const RecoveryCopy& copy) {
 } // namespace
 
 void Write_in_place(const SystemFile& former, const fs::path& target, std::string_view content, OldTail tail) {
-    const RecoveryCopy copy = Make_recovery_copy(former, target);
+    const UndoCopy copy = Make_undo_copy(former, target);
     try {
         Flush_folder(Folder_of(copy.path), copy.file);
         Overwrite(former, content, tail);
     } catch (...) {
         Restore(former, copy);
-        Remove_recovery_copy(copy);
+        Remove_undo_copy(copy);
         throw;
     }
-    Remove_recovery_copy(copy);
+    Remove_undo_copy(copy);
 }
 
 std::optional<fs::path> Mend(const SystemFile& former, const fs::path& target) {
-    const std::optional<RecoveryCopy> copy = Find_recovery_copy(former, target);
+    const std::optional<UndoCopy> copy = Find_undo_copy(former, target);
     if (!copy) {
         return {};
     }
@@ -54,7 +54,7 @@ std::optional<fs::path> Mend(const SystemFile& former, const fs::path& target) {
         found = Keep_copy(former, target);
         Restore(former, *copy);
     }
-    Remove_recovery_copy(*copy);
+    Remove_undo_copy(*copy);
     return found;
 }
 

@@ -1,7 +1,7 @@
-// Writing over a file that cannot be replaced by another one: in place, with a recovery copy beside it meanwhile. A
+// Writing over a file that cannot be replaced by another one: in place, with an undo copy beside it meanwhile. A
 // crash leaves both, and whoever opens or saves the file next puts the former content back.
 //
-// `former` is the file, open for reading and writing and locked, so that a recovery copy that is there is a dead
+// `former` is the file, open for reading and writing and locked, so that an undo copy that is there is a dead
 // process's. Errors: throws std::system_error.
 #pragma once
 
@@ -19,7 +19,7 @@ enum class OldTail : std::uint8_t {
     drop,
 };
 
-// A failure leaves the former content; only where that cannot be put back either, the recovery copy stays.
+// A failure leaves the former content; only where that cannot be put back either, the undo copy stays.
 void Write_in_place(const SystemFile& former, const std::filesystem::path& target, std::string_view content,
                     OldTail tail);
 

@@ -11,6 +11,7 @@
 
 #include "data/FileNames.h"
 #include "data/FileRights.h"
+#include "data/Folders.h"
 #include "data/TemporaryFile.h"
 
 namespace tarnvik {
@@ -35,7 +36,7 @@ void Make_folder(const fs::path& folder) {
 
 // The file's folder is there: whatever is missing here, it is no path of the user's that was not found.
 fs::path State_folder_made() {
-    fs::path folder = State_folder();
+    fs::path folder = User_state_folder();
     if (folder.empty()) {
         Throw_error(EACCES);
     }
@@ -68,23 +69,23 @@ fs::path Keep_copy_at(const SystemFile& former, const fs::path& path) {
     }
 }
 
-// `path` as above; `recovery` is the name that the copy gets.
-RecoveryCopy Make_recovery_copy_at(const SystemFile& former, const fs::path& path, const fs::path& recovery) {
+// `path` as above; `undo` is the name that the copy gets.
+UndoCopy Make_undo_copy_at(const SystemFile& former, const fs::path& path, const fs::path& undo) {
     TemporaryFile copy{path, closed_file};
     Fill(copy, former);
-    if (!copy.Take_free(recovery)) {
+    if (!copy.Take_free(undo)) {
         Throw_error(EPERM); // of somebody who is not trusted with the file
     }
-    return {recovery, copy.Take_file()};
+    return {undo, copy.Take_file()};
 }
 
 fs::path Beside(const fs::path& target) {
-    return Folder_of(target) / Recovery_name(target.filename().native());
+    return Folder_of(target) / Undo_name(target.filename().native());
 }
 
-std::array<fs::path, 2> Recovery_paths(const fs::path& target) {
-    const fs::path folder = State_folder();
-    return {Beside(target), folder.empty() ? fs::path{} : folder / Recovery_name_of_path(target)};
+std::array<fs::path, 2> Undo_paths(const fs::path& target) {
+    const fs::path folder = User_state_folder();
+    return {Beside(target), folder.empty() ? fs::path{} : folder / Undo_name_of_path(target)};
 }
 
 // Where everybody may make files but nobody remove another's, a copy made by anybody has no say in the file.
@@ -132,20 +133,20 @@ fs::path Keep_copy(const SystemFile& former, const fs::path& target) {
     return Keep_copy_at(former, State_folder_made() / target.filename());
 }
 
-RecoveryCopy Make_recovery_copy(const SystemFile& former, const fs::path& target) {
+UndoCopy Make_undo_copy(const SystemFile& former, const fs::path& target) {
     try {
-        return Make_recovery_copy_at(former, target, Beside(target));
+        return Make_undo_copy_at(former, target, Beside(target));
     } catch (const std::system_error& error) {
         if (!Folder_refuses(error.code().value())) {
             throw;
         }
     }
     const fs::path folder = State_folder_made();
-    return Make_recovery_copy_at(former, folder / target.filename(), folder / Recovery_name_of_path(target));
+    return Make_undo_copy_at(former, folder / target.filename(), folder / Undo_name_of_path(target));
 }
 
-std::optional<RecoveryCopy> Find_recovery_copy(const SystemFile& former, const fs::path& target) {
-    for (const fs::path& path : Recovery_paths(target)) {
+std::optional<UndoCopy> Find_undo_copy(const SystemFile& former, const fs::path& target) {
+    for (const fs::path& path : Undo_paths(target)) {
         if (!Is_there(path)) {
             continue;
         }
@@ -154,26 +155,26 @@ std::optional<RecoveryCopy> Find_recovery_copy(const SystemFile& former, const f
             Throw_error();
         }
         if (Is_trusted(file, former, Folder_of(path))) {
-            return RecoveryCopy{path, std::move(file)};
+            return UndoCopy{path, std::move(file)};
         }
     }
     return {};
 }
 
-bool Has_recovery_copy(const fs::path& target) {
-    const auto paths = Recovery_paths(target);
+bool Has_undo_copy(const fs::path& target) {
+    const auto paths = Undo_paths(target);
     return Is_there(paths[0]) || Is_there(paths[1]);
 }
 
-void Remove_recovery_copy(const RecoveryCopy& copy) {
+void Remove_undo_copy(const UndoCopy& copy) {
     if (unlink(copy.path.c_str()) != 0) {
         Throw_error();
     }
     Flush_folder(Folder_of(copy.path), copy.file);
 }
 
-std::optional<fs::path> Retire_recovery_copy(const fs::path& target) {
-    for (const fs::path& path : Recovery_paths(target)) {
+std::optional<fs::path> Retire_undo_copy(const fs::path& target) {
+    for (const fs::path& path : Undo_paths(target)) {
         if (!Is_there(path)) {
             continue;
         }

@@ -1,5 +1,5 @@
 // Copies of what a file holds, kept while or because it is about to hold something else. Where the file's folder takes
-// no new file they go to the user's state folder (State_folder). Errors: throws std::system_error.
+// no new file they go to the user's state folder (User_state_folder). Errors: throws std::system_error.
 #pragma once
 
 #include <filesystem>
@@ -19,24 +19,24 @@ std::filesystem::path Keep_copy(const SystemFile& former, const std::filesystem:
 
 // What a file held before it was written in place. It exists whole or not at all, and as long as the writing may be cut
 // off.
-struct RecoveryCopy {
+struct UndoCopy {
     std::filesystem::path path;
     SystemFile file;
 };
 
 // The name is not flushed yet.
-RecoveryCopy Make_recovery_copy(const SystemFile& former, const std::filesystem::path& target);
+UndoCopy Make_undo_copy(const SystemFile& former, const std::filesystem::path& target);
 
 // The one that is there, and that belongs to somebody who may be trusted with the file.
-std::optional<RecoveryCopy> Find_recovery_copy(const SystemFile& former, const std::filesystem::path& target);
+std::optional<UndoCopy> Find_undo_copy(const SystemFile& former, const std::filesystem::path& target);
 
 // Whether one may be there.
-bool Has_recovery_copy(const std::filesystem::path& target);
+bool Has_undo_copy(const std::filesystem::path& target);
 
-void Remove_recovery_copy(const RecoveryCopy& copy);
+void Remove_undo_copy(const UndoCopy& copy);
 
 // The file that it was made for is gone, and a new one of its name comes: the copy becomes a NAME~. The path, if there
 // was one.
-std::optional<std::filesystem::path> Retire_recovery_copy(const std::filesystem::path& target);
+std::optional<std::filesystem::path> Retire_undo_copy(const std::filesystem::path& target);
 
 } // namespace tarnvik

@@ -148,7 +148,7 @@ bool Saving::Open_former() {
 
 void Saving::Keep_former() {
     if (!former_) {
-        if (const std::optional<fs::path> retired = Retire_recovery_copy(target_)) {
+        if (const std::optional<fs::path> retired = Retire_undo_copy(target_)) {
             report_.kept.push_back(*retired);
         }
         return;
@@ -248,7 +248,7 @@ SaveReport Safe_write(const fs::path& path, std::string_view content, const Save
 std::optional<fs::path> Mend_file(const fs::path& path, std::string_view where) {
     try {
         const fs::path target = Follow(path);
-        if (!Has_recovery_copy(target) || !fs::is_regular_file(target)) {
+        if (!Has_undo_copy(target) || !fs::is_regular_file(target)) {
             return {};
         }
         if (const SystemFile former = Open_file(target, O_RDWR)) {
@@ -260,7 +260,7 @@ std::optional<fs::path> Mend_file(const fs::path& path, std::string_view where) 
             return {}; // whoever reads it will tell
         }
         Lock(former);
-        const std::optional<RecoveryCopy> copy = Find_recovery_copy(former, target);
+        const std::optional<UndoCopy> copy = Find_undo_copy(former, target);
         if (copy && !Same_content(former, copy->file)) {
             Throw_error(EACCES);
         }

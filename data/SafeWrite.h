@@ -4,7 +4,7 @@
 // The new content goes to a temporary file beside the target, is flushed to the disk and renamed over the target; then
 // the folder is flushed. Where that would take one of the rights away from the file (another owner's, a group that the
 // process is not in), cut one of several hard links, or where the folder denies it, the file is written in place, with
-// a recovery copy meanwhile. Two savers of one file wait for each other. docs/file-formats.md has the names of all
+// an undo copy meanwhile. Two savers of one file wait for each other. docs/file-formats.md has the names of all
 // files.
 #pragma once
 

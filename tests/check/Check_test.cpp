@@ -351,10 +351,10 @@ TEST_F(CheckProjects, several_projects_are_independent_and_the_worst_status_coun
 
 TEST_F(CheckProjects, a_half_written_project_is_mended_and_told) {
     ASSERT_EQ(Tool({"--json", "--save", File("holds")}).err, "");
-    test::Write_file(folder / ".holds.recovery", test::Read_file(File("holds")));
+    test::Write_file(folder / ".holds.undo", test::Read_file(File("holds")));
     const ToolRun whole = Tool({"--json", File("holds")});
     EXPECT_EQ(whole.err, "");
-    test::Write_file(folder / ".holds.recovery", test::Read_file(File("holds")));
+    test::Write_file(folder / ".holds.undo", test::Read_file(File("holds")));
     test::Write_file(folder / "holds", "half");
     const ToolRun mended = Tool({"--json", File("holds")});
     EXPECT_EQ(mended.out, whole.out);

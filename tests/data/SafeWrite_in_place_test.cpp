@@ -9,6 +9,7 @@
 #include <unistd.h>
 
 #include "data/FileNames.h"
+#include "data/Folders.h"
 #include "tests/support/Files.h"
 #include "tests/support/Processes.h"
 
@@ -93,7 +94,7 @@ TEST(SafeWriteInPlace, no_room_left_on_a_disk_makes_a_third_state) {
     EXPECT_EQ(failures, 0);
 }
 
-TEST(SafeWriteInPlace, a_disk_without_room_for_the_recovery_copy_leaves_the_file_alone) {
+TEST(SafeWriteInPlace, a_disk_without_room_for_the_undo_copy_leaves_the_file_alone) {
     const TemporaryFolder folder;
     const int failures = With_own_mounts([&] {
         if (!Mount_small_disk(folder.Path())) {
@@ -116,7 +117,7 @@ TEST(SafeWriteInPlace, a_disk_without_room_for_the_recovery_copy_leaves_the_file
 TEST(SafeWriteInPlace, a_reader_finds_the_former_content_again_and_what_was_there_kept) {
     const TemporaryFolder folder;
     Write_file(folder / "a", "newmer co");
-    Write_file(folder / ".a.recovery", "former content");
+    Write_file(folder / ".a.undo", "former content");
     struct stat before {};
     ASSERT_EQ(stat((folder / "a").c_str(), &before), 0);
     const auto found = Mend_file(folder / "a", "Test");
@@ -134,7 +135,7 @@ TEST(SafeWriteInPlace, a_reader_finds_the_former_content_again_and_what_was_ther
 TEST(SafeWriteInPlace, a_longer_content_is_cut_to_the_former_one) {
     const TemporaryFolder folder;
     Write_file(folder / "a", std::string(200000, 'n'));
-    Write_file(folder / ".a.recovery", "");
+    Write_file(folder / ".a.undo", "");
     EXPECT_TRUE(Mend_file(folder / "a", "Test"));
     EXPECT_EQ(Read_file(folder / "a"), "");
 }
@@ -142,7 +143,7 @@ TEST(SafeWriteInPlace, a_longer_content_is_cut_to_the_former_one) {
 TEST(SafeWriteInPlace, a_write_that_had_not_begun_is_mended_in_silence) {
     const TemporaryFolder folder;
     Write_file(folder / "a", "former content");
-    Write_file(folder / ".a.recovery", "former content");
+    Write_file(folder / ".a.undo", "former content");
     EXPECT_FALSE(Mend_file(folder / "a", "Test"));
     EXPECT_EQ(folder.Files(), 1U);
 }
@@ -150,7 +151,7 @@ TEST(SafeWriteInPlace, a_write_that_had_not_begun_is_mended_in_silence) {
 TEST(SafeWriteInPlace, the_next_save_mends_first) {
     const TemporaryFolder folder;
     Write_file(folder / "a", "newm");
-    Write_file(folder / ".a.recovery", "former content");
+    Write_file(folder / ".a.undo", "former content");
     const SaveReport report = Safe_write(folder / "a", "later", {}, "Test");
     EXPECT_TRUE(report.mended);
     ASSERT_EQ(report.kept.size(), 1U);
@@ -163,7 +164,7 @@ TEST(SafeWriteInPlace, links_are_followed_to_the_copy) {
     const TemporaryFolder folder;
     fs::create_directory(folder / "elsewhere");
     Write_file(folder / "elsewhere/real", "newm");
-    Write_file(folder / "elsewhere/.real.recovery", "former");
+    Write_file(folder / "elsewhere/.real.undo", "former");
     fs::create_symlink("elsewhere/real", folder / "link");
     EXPECT_TRUE(Mend_file(folder / "link", "Test"));
     EXPECT_EQ(Read_file(folder / "elsewhere/real"), "former");
@@ -171,7 +172,7 @@ TEST(SafeWriteInPlace, links_are_followed_to_the_copy) {
 
 TEST(SafeWriteInPlace, a_copy_whose_file_is_gone_is_kept_when_a_new_file_comes) {
     const TemporaryFolder folder;
-    Write_file(folder / ".a.recovery", "former content");
+    Write_file(folder / ".a.undo", "former content");
     EXPECT_FALSE(Mend_file(folder / "a", "Test"));
     const SaveReport report = Safe_write(folder / "a", "new", {}, "Test");
     EXPECT_FALSE(report.mended);
@@ -190,7 +191,7 @@ TEST(SafeWriteInPlace, a_copy_in_the_state_folder_mends_as_well) {
     fs::create_directory(state / "tarnvik");
     const fs::path file = fs::canonical(folder.Path()) / "a";
     Write_file(file, "newm");
-    Write_file(State_folder() / Recovery_name_of_path(file), "former");
+    Write_file(User_state_folder() / Undo_name_of_path(file), "former");
     EXPECT_TRUE(Mend_file(file, "Test"));
     EXPECT_EQ(Read_file(file), "former");
     EXPECT_TRUE(fs::is_empty(state / "tarnvik"));
@@ -207,13 +208,13 @@ TEST(SafeWriteInPlace, a_half_written_file_that_the_reader_may_not_mend_is_refus
     const TemporaryFolder folder;
     ASSERT_EQ(chmod(folder.Path().c_str(), 0755), 0);
     Write_file(folder / "a", "newm");
-    Write_file(folder / ".a.recovery", "former");
+    Write_file(folder / ".a.undo", "former");
     const auto mend = [&] { return Fault_of([&] { Mend_file(folder / "a", "Test"); }); };
     EXPECT_EQ(As_user({ann, {ann}}, mend), fault_path_access);
     Write_file(folder / "a", "former"); // whole: it may be read as it is
     EXPECT_EQ(As_user({ann, {ann}}, mend), 0);
     EXPECT_EQ(folder.Files(), 2U);
-    ASSERT_EQ(chmod((folder / ".a.recovery").c_str(), 0600), 0);
+    ASSERT_EQ(chmod((folder / ".a.undo").c_str(), 0600), 0);
     EXPECT_EQ(As_user({ann, {ann}}, mend), fault_path_access);
 }
 
@@ -224,13 +225,13 @@ TEST(SafeWriteInPlace, where_everybody_may_make_files_a_strangers_copy_has_no_sa
     const TemporaryFolder folder;
     Write_file(folder / "a", "content");
     ASSERT_EQ(chown((folder / "a").c_str(), ann, ann), 0);
-    Write_file(folder / ".a.recovery", "planted");
-    ASSERT_EQ(chown((folder / ".a.recovery").c_str(), bob, bob), 0);
+    Write_file(folder / ".a.undo", "planted");
+    ASSERT_EQ(chown((folder / ".a.undo").c_str(), bob, bob), 0);
     ASSERT_EQ(chmod(folder.Path().c_str(), 01777), 0);
     EXPECT_EQ(As_user({ann, {ann}}, [&] { return Mend_file(folder / "a", "Test") ? 1 : 0; }), 0);
     EXPECT_EQ(Read_file(folder / "a"), "content");
-    fs::remove(folder / ".a.recovery");
-    fs::create_symlink("a", folder / ".a.recovery");
+    fs::remove(folder / ".a.undo");
+    fs::create_symlink("a", folder / ".a.undo");
     EXPECT_FALSE(Mend_file(folder / "a", "Test"));
 }
 

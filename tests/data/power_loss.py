@@ -31,9 +31,9 @@ MODE_OF_FORMER = 0o640
 
 # Flushes that may be left out of one kind of save alone, by their number.
 SPARE = {
-    ("in place, former content kept", 2): "of the folder for NAME~: it is flushed again for the recovery file",
+    ("in place, former content kept", 2): "of the folder for NAME~: it is flushed again for the undo copy",
     ("in place, in a closed folder", 3): "the same, in the state folder",
-    ("mended", 4): "of the folder when the recovery file is gone: one that comes back is found equal to the file",
+    ("mended", 4): "of the folder when the undo copy is gone: one that comes back is found equal to the file",
 }
 
 
@@ -253,8 +253,8 @@ class Loss:
                    for path, (left, _) in self.state.items())
 
     def opened(self):
-        """The target's content and mode; a file with a recovery copy is mended by the program itself."""
-        if not any(path.endswith(".recovery") for path in self.state):
+        """The target's content and mode; a file with an undo copy is mended by the program itself."""
+        if not any(path.endswith(".undo") for path in self.state):
             return self.state.get(str(self.place.target), (None, None))
         self.place.clear()
         for path, (content, mode) in self.state.items():

@@ -139,7 +139,7 @@ def at_each_call(tool, kills, few):
 
 
 def kill_at_random(root, tool, number):
-    """One kill: whether it left a temporary file, a recovery file, and whether something went wrong."""
+    """One kill: whether it left a temporary file, an undo copy, and whether something went wrong."""
     pathlib.Path(root).mkdir()
     place = Place(tool, root, Scenario("killed", FORMER, LONG, linked=number % 2 == 1))
     place.set_up()
@@ -159,7 +159,7 @@ def kill_at_random(root, tool, number):
     if later.returncode != 0 or place.content() != LONG or place.left_over():
         wrong = complain(place.scenario, f"kill {number}", f"the next save: {later.stderr!r} {place.left_over()}")
     shutil.rmtree(root)
-    return any(name.endswith(".tmp") for name in left), ".a.recovery" in left, wrong
+    return any(name.endswith(".tmp") for name in left), ".a.undo" in left, wrong
 
 
 def random_kills(tool, count):
@@ -167,8 +167,8 @@ def random_kills(tool, count):
     with tempfile.TemporaryDirectory(prefix="tarnvik-kills-") as root:
         with concurrent.futures.ThreadPoolExecutor(max_workers=2 * os.cpu_count()) as pool:
             kills = list(pool.map(lambda number: kill_at_random(f"{root}/{number}", tool, number), range(count)))
-    temporary, recovery, wrong = (sum(column) for column in zip(*kills))
-    print(f"stops: {count} kills, {temporary} left a temporary file, {recovery} a recovery file, {wrong} wrong")
+    temporary, undo, wrong = (sum(column) for column in zip(*kills))
+    print(f"stops: {count} kills, {temporary} left a temporary file, {undo} an undo copy, {wrong} wrong")
     return 1 if wrong else 0
 
 

@@ -97,8 +97,8 @@ class Place:
             self.target.write_bytes(scenario.former)
             self.target.chmod(0o640)
         if scenario.mends:
-            (self.files / ".a.recovery").write_bytes(FORMER)
-            (self.files / ".a.recovery").chmod(0o640)
+            (self.files / ".a.undo").write_bytes(FORMER)
+            (self.files / ".a.undo").chmod(0o640)
         if scenario.linked:
             os.link(self.target, self.root / "state" / "link")
         if scenario.attributes:

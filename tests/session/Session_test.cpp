@@ -114,7 +114,7 @@ TEST_F(SessionTest, a_project_that_a_crash_left_half_written_is_mended_and_told)
     Start();
     const std::filesystem::path path = folder / "joint.tnvik";
     session.Save(path.string());
-    test::Write_file(folder / ".joint.tnvik.recovery", test::Read_file(path));
+    test::Write_file(folder / ".joint.tnvik.undo", test::Read_file(path));
     test::Write_file(path, "half");
     EXPECT_FALSE(session.Open_project(path.string()));
     ASSERT_TRUE(session.Mended());

@@ -65,7 +65,13 @@ int Tool::Projects() {
 }
 
 int Tool::Project(const std::string& path) {
-    if (const std::optional<RuntimeFault> failure = session_.Open_project(path)) {
+    const std::optional<RuntimeFault> failure = session_.Open_project(path);
+    if (session_.Mended()) {
+        err_ << "tarnvik-check: " << path
+             << ": was left half-written; its former content is back, what was there lies in "
+             << session_.Mended()->string() << "\n";
+    }
+    if (failure) {
         err_ << "tarnvik-check: " << path << ": expected a project file: "
              << (failure->number == fault_bad_record_length ? "it ends too soon" : failure->description) << "\n";
         return exit_usage;

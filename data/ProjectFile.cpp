@@ -11,7 +11,6 @@
 
 #include "calc/RuntimeFault.h"
 #include "data/CodePage.h"
-#include "data/SafeWrite.h"
 #include "data/SetupFile.h"
 #include "data/Tables.h"
 
@@ -210,14 +209,15 @@ void Read_project(ConnectionState& s, Project_record& record, std::istream& stre
     Visit_parts(file, s, record);
 }
 
-void Save_project(const ConnectionState& s, const Project_record& record, const fs::path& path) {
-    Safe_write(path, Project_bytes(s, record), OldTail::keep, "Save_project");
+SaveReport Save_project(const ConnectionState& s, const Project_record& record, const fs::path& path,
+                        const SaveRequest& request) {
+    return Safe_write(path, Project_bytes(s, record), request, "Save_project");
 }
 
-void Save_project(const ConnectionState& s, const fs::path& path) {
+SaveReport Save_project(const ConnectionState& s, const fs::path& path) {
     Project_record record;
     Fill_project(s, record);
-    Save_project(s, record, path);
+    return Save_project(s, record, path);
 }
 
 void Load_project(ConnectionState& s, Project_record& record, const fs::path& path) {

@@ -9,6 +9,7 @@
 #include <string>
 
 #include "calc/GlobalParameter.h"
+#include "data/SafeWrite.h"
 #include "ports/MessageBox.h"
 
 namespace tarnvik {
@@ -49,10 +50,11 @@ std::string Project_bytes(const ConnectionState& s, const Project_record& record
 // Errors: bad record length (59) where the file ends too soon; what was read so far stays.
 void Read_project(ConnectionState& s, Project_record& record, std::istream& stream);
 
-// Writes the file; a longer one keeps its old tail. Errors: as Safe_write.
-void Save_project(const ConnectionState& s, const Project_record& record, const std::filesystem::path& path);
+// Writes the file; a longer one keeps its old tail, unless asked otherwise. Errors: as Safe_write.
+SaveReport Save_project(const ConnectionState& s, const Project_record& record, const std::filesystem::path& path,
+                        const SaveRequest& request = {});
 // With the record filled from the state.
-void Save_project(const ConnectionState& s, const std::filesystem::path& path);
+SaveReport Save_project(const ConnectionState& s, const std::filesystem::path& path);
 
 // Reads the file and copies language and factors from the Setup record. The record is to be applied next.
 // Errors: file not found (53), path not found (76), bad record length (59), path or file cannot be accessed (75). A

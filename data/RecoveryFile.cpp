@@ -7,8 +7,6 @@
 
 #include <fcntl.h>
 #include <stdlib.h> // NOLINT(modernize-deprecated-headers): mkostemps is the system's
-#include <sys/file.h>
-#include <sys/stat.h>
 #include <unistd.h>
 
 namespace tarnvik {
@@ -22,26 +20,22 @@ constexpr std::string_view suffix = ".tnvik";
 constexpr std::string_view part = ".part"; // not whole yet
 constexpr std::string_view tail_mark = "\nTarnvik recovery of: ";
 
-bool Lock(const OpenFile& file) {
-    return flock(file.Descriptor(), LOCK_EX | LOCK_NB) == 0;
-}
-
-bool Write_all(const OpenFile& file, std::string_view content) {
+bool Write_all(const SystemFile& file, std::string_view content) {
     while (!content.empty()) {
-        const ssize_t written = write(file.Descriptor(), content.data(), content.size());
+        const ssize_t written = write(file.Get(), content.data(), content.size());
         if (written <= 0) {
             return false;
         }
         content.remove_prefix(static_cast<std::size_t>(written));
     }
-    return fsync(file.Descriptor()) == 0;
+    return fsync(file.Get()) == 0;
 }
 
 // A file that still has the path that it was opened by: its process may just have put a new one in its place.
-bool Stands_at(const OpenFile& file, const fs::path& path) {
+bool Stands_at(const SystemFile& file, const fs::path& path) {
     struct stat one {};
     struct stat other {};
-    return fstat(file.Descriptor(), &one) == 0 && lstat(path.c_str(), &other) == 0 && one.st_dev == other.st_dev &&
+    return fstat(file.Get(), &one) == 0 && lstat(path.c_str(), &other) == 0 && one.st_dev == other.st_dev &&
            one.st_ino == other.st_ino && S_ISREG(one.st_mode);
 }
 
@@ -67,19 +61,6 @@ std::vector<Candidate> Candidates(const fs::path& folder) {
 
 } // namespace
 
-OpenFile::OpenFile(OpenFile&& other) noexcept : descriptor_(std::exchange(other.descriptor_, -1)) {}
-
-OpenFile& OpenFile::operator=(OpenFile&& other) noexcept {
-    std::swap(descriptor_, other.descriptor_); // the former one is closed with the other
-    return *this;
-}
-
-OpenFile::~OpenFile() {
-    if (Is_open()) {
-        close(descriptor_);
-    }
-}
-
 RecoveryFile::RecoveryFile(fs::path folder) : folder_(std::move(folder)) {}
 
 bool RecoveryFile::Write(std::string_view content) {
@@ -91,12 +72,12 @@ bool RecoveryFile::Write(std::string_view content) {
         fs::permissions(folder_, fs::perms::owner_all, error);
     }
     std::string name = (folder_ / prefix).string() + "XXXXXX" + std::string{suffix} + std::string{part};
-    OpenFile file{mkostemps(name.data(), static_cast<int>(suffix.size() + part.size()), O_CLOEXEC)}; // mode 0600
-    if (!file.Is_open()) {
+    SystemFile file{mkostemps(name.data(), static_cast<int>(suffix.size() + part.size()), O_CLOEXEC)}; // mode 0600
+    if (!file) {
         return false;
     }
     fs::path target = path_.empty() ? fs::path{name.substr(0, name.size() - part.size())} : path_;
-    if (!Lock(file) || !Write_all(file, content) || rename(name.c_str(), target.c_str()) != 0) {
+    if (Try_lock(file) != LockResult::taken || !Write_all(file, content) || rename(name.c_str(), target.c_str()) != 0) {
         unlink(name.c_str());
         return false;
     }
@@ -118,8 +99,8 @@ std::optional<LeftWork> Claim_left_work(const fs::path& folder) {
         return std::nullopt;
     }
     for (const auto& [path, time] : Candidates(folder)) {
-        OpenFile file{open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK)};
-        if (!file.Is_open() || !Lock(file) || !Stands_at(file, path)) {
+        SystemFile file{open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK)};
+        if (!file || Try_lock(file) != LockResult::taken || !Stands_at(file, path)) {
             continue;
         }
         if (path.native().ends_with(part)) {

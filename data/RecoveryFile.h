@@ -10,25 +10,9 @@
 #include <string>
 #include <string_view>
 
+#include "data/SystemFile.h"
+
 namespace tarnvik {
-
-// An open file of the system, closed at the end of its life; a lock on it goes with it.
-class OpenFile {
-public:
-    OpenFile() = default;
-    explicit OpenFile(int descriptor) : descriptor_(descriptor) {}
-    OpenFile(OpenFile&& other) noexcept;
-    OpenFile& operator=(OpenFile&& other) noexcept;
-    OpenFile(const OpenFile&) = delete;
-    OpenFile& operator=(const OpenFile&) = delete;
-    ~OpenFile();
-
-    [[nodiscard]] int Descriptor() const { return descriptor_; }
-    [[nodiscard]] bool Is_open() const { return descriptor_ >= 0; }
-
-private:
-    int descriptor_{-1};
-};
 
 // The recovery file of this process.
 class RecoveryFile {
@@ -47,13 +31,13 @@ public:
 private:
     std::filesystem::path folder_;
     std::filesystem::path path_;
-    OpenFile locked_;
+    SystemFile locked_;
 };
 
 // The recovery file of a process that no longer runs, claimed: no other process is given it.
 struct LeftWork {
     std::filesystem::path path;
-    OpenFile locked;
+    SystemFile locked;
 };
 
 // The newest one; nothing where there is none. Removes what a process left half written.

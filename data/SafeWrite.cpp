@@ -1,16 +1,16 @@
 #include "data/SafeWrite.h"
 
 #include <cerrno>
-#include <cstdio>
-#include <memory>
+#include <string>
 #include <system_error>
-#include <vector>
+#include <utility>
 
-#if __has_include(<unistd.h>)
-#include <unistd.h>
-#endif
+#include <fcntl.h>
 
 #include "calc/RuntimeFault.h"
+#include "data/FileRights.h"
+#include "data/KeptCopy.h"
+#include "data/TemporaryFile.h"
 
 namespace tarnvik {
 
@@ -18,105 +18,18 @@ namespace fs = std::filesystem;
 
 namespace {
 
-struct Closer {
-    void operator()(std::FILE* file) const { std::fclose(file); }
-};
-using File = std::unique_ptr<std::FILE, Closer>;
-
-// Deletes the temporary file unless it has become the target.
-class TemporaryFile {
-public:
-    explicit TemporaryFile(fs::path path) : path_(std::move(path)) {}
-    TemporaryFile(const TemporaryFile&) = delete;
-    TemporaryFile& operator=(const TemporaryFile&) = delete;
-    ~TemporaryFile() {
-        if (!renamed_) {
-            std::error_code ignored;
-            fs::remove(path_, ignored);
-        }
-    }
-    [[nodiscard]] const fs::path& Path() const { return path_; }
-    void Rename(const fs::path& target, std::error_code& error) {
-        fs::rename(path_, target, error);
-        renamed_ = !error;
-    }
-
-private:
-    fs::path path_;
-    bool renamed_{};
-};
-
 int Number_of(int system_error) {
     switch (system_error) {
     case ENOENT:
     case ENOTDIR:
         return fault_path_not_found;
     case ENOSPC:
-#ifdef EDQUOT
     case EDQUOT:
-#endif
+    case EFBIG: // a limit on the size of files, as a full disk
         return fault_disk_full;
     default:
         return fault_path_access;
     }
-}
-
-void Write(std::FILE* file, std::string_view bytes, std::string_view where) {
-    if (std::fwrite(bytes.data(), 1, bytes.size(), file) != bytes.size()) {
-        Raise(Number_of(errno), where);
-    }
-}
-
-void Flush(std::FILE* file, std::string_view where) {
-    if (std::fflush(file) != 0) {
-        Raise(Number_of(errno), where);
-    }
-#if __has_include(<unistd.h>)
-    if (fsync(fileno(file)) != 0) {
-        Raise(Number_of(errno), where);
-    }
-#endif
-}
-
-void Copy_tail(const fs::path& target, long from, std::FILE* to, std::string_view where) {
-    const File old{std::fopen(target.c_str(), "rb")};
-    if (!old) {
-        // A file that may be replaced but not read has no tail to carry over that anybody could miss; a missing one
-        // has none at all.
-        if (errno == ENOENT) {
-            return;
-        }
-        Raise(Number_of(errno), where);
-    }
-    if (std::fseek(old.get(), from, SEEK_SET) != 0) {
-        Raise(fault_path_access, where);
-    }
-    std::vector<char> block(65536);
-    for (;;) {
-        const std::size_t read = std::fread(block.data(), 1, block.size(), old.get());
-        Write(to, {block.data(), read}, where);
-        if (read < block.size()) {
-            if (std::ferror(old.get()) != 0) {
-                Raise(fault_path_access, where);
-            }
-            return;
-        }
-    }
-}
-
-// A name of its own for each process and each try, in the target's folder: a rename works within one file system only.
-fs::path Temporary_name(const fs::path& target, int attempt) {
-    constexpr std::size_t name_part = 200; // the whole name has to stay within the 255 bytes of the file systems
-    std::string name{"."};
-    name += target.filename().string().substr(0, name_part);
-    name += '.';
-#if __has_include(<unistd.h>)
-    name += std::to_string(getpid());
-#endif
-    name += '-';
-    name += std::to_string(attempt);
-    name += ".tmp";
-    return target.parent_path() / name;
 }
 
 // The file that a path leads to. A link that leads to nothing yet is followed as well: the file is created at its end.
@@ -132,60 +45,228 @@ fs::path Follow(const fs::path& path) {
         if (error) {
             break;
         }
-        target = target.parent_path() / link; // an absolute link replaces the folder
+        target = Folder_of(target) / link; // an absolute link replaces the folder
     }
     return target;
 }
 
+// Whether nothing of the file would be lost with the content written over it.
+bool Content_holds(std::string_view content, OldTail tail, const SystemFile& former) {
+    const auto size = static_cast<std::size_t>(Status_of(former).st_size);
+    if (content.size() > size || (content.size() < size && tail == OldTail::drop)) {
+        return false;
+    }
+    const std::size_t length = content.size();
+    std::string there(length, '\0');
+    return Read_at(former, there.data(), length, 0) == length && there == content;
+}
+
+class Saving {
+public:
+    Saving(fs::path target, std::string_view content, const SaveRequest& request)
+        : target_(std::move(target)), content_(content), request_(request) {}
+
+    SaveReport Run() {
+        constexpr int most_tries = 20;
+        for (int i = 0; i < most_tries; ++i) {
+            if (Try()) {
+                return std::move(report_);
+            }
+        }
+        Throw_error(EBUSY);
+    }
+
+private:
+    enum class Replaced : std::uint8_t {
+        done,
+        changed, // another process has written the target meanwhile
+        refused, // the target cannot be replaced as it should
+    };
+
+    // False where the target has changed meanwhile: all begins anew with what it is now.
+    bool Try();
+    bool Open_former();
+    void Keep_former();
+    [[nodiscard]] bool As_seen() const;
+    Replaced Replace();
+    bool Fill(const TemporaryFile& temporary);
+    bool Take_place(TemporaryFile& temporary);
+    bool Overwrite();
+
+    fs::path target_;
+    std::string_view content_;
+    SaveRequest request_;
+    SaveReport report_;
+    SystemFile former_;   // locked; none for a new file
+    struct stat seen_ {}; // what it was when its content was looked at
+};
+
+bool Saving::Try() {
+    if (!Open_former()) {
+        return false;
+    }
+    Keep_former();
+    if (former_ && seen_.st_nlink > 1) {
+        return Overwrite();
+    }
+    const Replaced replaced = Replace();
+    return replaced == Replaced::refused ? Overwrite() : replaced == Replaced::done;
+}
+
+// What overwriting in place would refuse is refused here: a renaming alone asks only for the folder's permission.
+bool Saving::Open_former() {
+    former_ = {};
+    struct stat status {};
+    if (stat(target_.c_str(), &status) != 0) {
+        if (errno != ENOENT) {
+            Throw_error();
+        }
+        return true;
+    }
+    if (!S_ISREG(status.st_mode)) {
+        Throw_error(EACCES); // a device or a pipe is no place for a project
+    }
+    former_ = Open_file(target_, O_RDWR);
+    if (!former_) {
+        if (errno != ENOENT) {
+            Throw_error();
+        }
+        return false;
+    }
+    Lock(former_);
+    seen_ = Status_of(former_);
+    if (!As_seen()) {
+        return false; // another saver has replaced it while this one waited
+    }
+    if (const std::optional<fs::path> found = Mend(former_, target_)) {
+        report_.mended = true;
+        report_.kept.push_back(*found);
+        seen_ = Status_of(former_);
+    }
+    return true;
+}
+
+void Saving::Keep_former() {
+    if (!former_) {
+        if (const std::optional<fs::path> retired = Retire_undo_copy(target_)) {
+            report_.kept.push_back(*retired);
+        }
+        return;
+    }
+    const FileIdentity now = Identity_of(former_);
+    const bool keeps = request_.keep_former || (request_.known && *request_.known != now);
+    if (keeps && !Content_holds(content_, request_.tail, former_)) {
+        report_.kept.push_back(Keep_copy(former_, target_));
+    }
+    request_.keep_former = false; // should all begin anew, only another content is kept
+    if (keeps) {
+        request_.known = now;
+    }
+}
+
+bool Saving::As_seen() const {
+    struct stat now {};
+    if (stat(target_.c_str(), &now) != 0) {
+        return !former_ && errno == ENOENT;
+    }
+    return former_ && Unchanged(now, seen_);
+}
+
+Saving::Replaced Saving::Replace() {
+    constexpr mode_t closed = 0600;
+    constexpr mode_t of_a_new_file = 0666; // less what the umask takes
+    std::optional<TemporaryFile> temporary;
+    try {
+        temporary.emplace(target_, former_ ? closed : of_a_new_file);
+        if (!Fill(*temporary)) {
+            return Replaced::refused;
+        }
+        if (!As_seen() || !Take_place(*temporary)) {
+            return Replaced::changed;
+        }
+    } catch (const std::system_error& error) {
+        if (!former_ || !Folder_refuses(error.code().value())) {
+            throw;
+        }
+        return Replaced::refused;
+    }
+    Flush_folder(Folder_of(target_), temporary->File());
+    temporary->Close();
+    return Replaced::done;
+}
+
+// Whole and on the disk, but for its name. False where it may not have the rights of the former file.
+bool Saving::Fill(const TemporaryFile& temporary) {
+    Write_at(temporary.File(), content_, 0);
+    if (former_) {
+        if (request_.tail == OldTail::keep) {
+            Copy_from(former_, content_.size(), temporary.File());
+        }
+        if (!Copy_rights(former_, temporary.File())) {
+            return false;
+        }
+    }
+    report_.identity = Identity_of(temporary.File());
+    Flush(temporary.File());
+    return true;
+}
+
+bool Saving::Take_place(TemporaryFile& temporary) {
+    if (!former_) {
+        return temporary.Take_free(target_);
+    }
+    temporary.Replace(target_);
+    return true;
+}
+
+bool Saving::Overwrite() {
+    if (!As_seen()) {
+        return false;
+    }
+    Write_in_place(former_, target_, content_, request_.tail);
+    report_.identity = Identity_of(former_);
+    former_.Close();
+    return true;
+}
+
 } // namespace
 
-void Safe_write(const fs::path& path, std::string_view content, OldTail tail, std::string_view where) {
-    std::error_code error;
-    const fs::path target = Follow(path);
-    if (!target.has_filename() || fs::is_directory(target, error) ||
-        fs::is_symlink(fs::symlink_status(target, error))) { // still a link: a ring of them
-        Raise(fault_path_access, where);
-    }
-    const fs::file_status old = fs::status(target, error);
-    const bool replaces = fs::is_regular_file(old);
-    if (fs::exists(old) && !replaces) {
-        Raise(fault_path_access, where); // a device or a pipe is no place for a project
-    }
-    if (replaces) {
-        // What in-place overwriting would refuse is refused here: a rename alone asks only for the folder's permission.
-        const File writable{std::fopen(target.c_str(), "r+b")};
-        if (!writable) {
-            Raise(Number_of(errno), where);
+SaveReport Safe_write(const fs::path& path, std::string_view content, const SaveRequest& request,
+                      std::string_view where) {
+    try {
+        fs::path target = Follow(path);
+        std::error_code error;
+        if (!target.has_filename() || fs::is_directory(target, error)) {
+            Throw_error(EISDIR);
         }
+        return Saving{std::move(target), content, request}.Run();
+    } catch (const std::system_error& error) {
+        Raise(Number_of(error.code().value()), where);
     }
+}
 
-    File file;
-    fs::path name;
-    for (int attempt = 0; !file && attempt < 100; ++attempt) {
-        name = Temporary_name(target, attempt);
-        file.reset(std::fopen(name.c_str(), "wbx"));
-        if (!file && errno != EEXIST) {
-            Raise(Number_of(errno), where);
+std::optional<fs::path> Mend_file(const fs::path& path, std::string_view where) {
+    try {
+        const fs::path target = Follow(path);
+        if (!Has_undo_copy(target) || !fs::is_regular_file(target)) {
+            return {};
         }
-    }
-    if (!file) {
-        Raise(fault_path_access, where);
-    }
-    TemporaryFile temporary{name};
-    Write(file.get(), content, where);
-    if (replaces && tail == OldTail::keep) {
-        Copy_tail(target, static_cast<long>(content.size()), file.get(), where);
-    }
-    Flush(file.get(), where);
-    if (std::fclose(file.release()) != 0) {
-        Raise(Number_of(errno), where);
-    }
-    if (replaces) {
-        fs::permissions(temporary.Path(), old.permissions(), error);
-    }
-    temporary.Rename(target, error);
-    if (error) {
-        Raise(Number_of(error.value()), where);
+        if (const SystemFile former = Open_file(target, O_RDWR)) {
+            Lock(former);
+            return Mend(former, target);
+        }
+        const SystemFile former = Open_file(target, O_RDONLY);
+        if (!former) {
+            return {}; // whoever reads it will tell
+        }
+        Lock(former);
+        const std::optional<UndoCopy> copy = Find_undo_copy(former, target);
+        if (copy && !Same_content(former, copy->file)) {
+            Throw_error(EACCES);
+        }
+        return {};
+    } catch (const std::system_error& error) {
+        Raise(Number_of(error.code().value()), where);
     }
 }
 

@@ -184,7 +184,7 @@ std::string Setup_text(const SetupRecord& setup) {
 }
 
 void Write_setup(const SetupRecord& setup, const std::filesystem::path& folder) {
-    Safe_write(folder / setup_file_written, Setup_text(setup), OldTail::drop, "Write_setup");
+    Safe_write(folder / setup_file_written, Setup_text(setup), {OldTail::drop}, "Write_setup");
 }
 
 void Setup_to_state(ConnectionState& s) {

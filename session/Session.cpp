@@ -40,7 +40,9 @@ void Session::Recalculate() {
 std::optional<RuntimeFault> Session::Read_project(const std::string& path, const std::function<void()>& show) {
     results_.Forget_splitting(); // a typed he comes with the file, its check does not
     saved_.reset();
+    mended_.reset();
     try {
+        mended_ = Mend_file(path, "Open_project");
         Project_record record;
         Load_project(s_, record, path);
         Apply_project(s_, record);

@@ -85,6 +85,9 @@ public:
     // restores nothing, and is handed back. The project has its name in any case. The caller's pass ends the opening.
     std::optional<RuntimeFault> Open_project(const std::string& path, const std::function<void()>& show = {});
 
+    // What the last opening found half-written and put right: where that lies now. Nothing after any other.
+    [[nodiscard]] const std::optional<std::filesystem::path>& Mended() const { return mended_; }
+
     // The path of the project from now on.
     void Name(const std::string& path);
 
@@ -126,6 +129,7 @@ private:
     Standing results_;
     std::optional<Content> saved_; // nothing: no file holds what a failed opening left
     SpacingTexts report_texts_;    // outlive a print
+    std::optional<std::filesystem::path> mended_;
 };
 
 } // namespace tarnvik

@@ -37,7 +37,7 @@ ROOMS = {
 # Rooms that get by with the standard library and, in data, the calls of the system that saving needs.
 CORE = {"ports", "calc", "calc/pass", "spacing", "spacing/sketch", "data", "report", "detail", "session"}
 NO_QT = CORE | {"check"}
-SYSTEM = {"fcntl.h", "stdlib.h", "sys/file.h", "sys/stat.h", "sys/types.h", "unistd.h"}
+SYSTEM = {"fcntl.h", "stdlib.h", "sys/file.h", "sys/stat.h", "sys/types.h", "sys/xattr.h", "unistd.h"}
 
 INCLUDE = re.compile(r'^\s*#\s*include\s*([<"])([^>"]+)[>"]')
 

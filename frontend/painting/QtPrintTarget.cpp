@@ -163,7 +163,7 @@ std::unique_ptr<PrintTarget> Pdf_target(const std::filesystem::path& file, const
     writer->setCreator(QStringLiteral("Tarnvik"));
     return std::make_unique<QtPrintTarget>(std::move(writer), [bytes, file](QPagedPaintDevice& /*writer*/) {
         const QByteArray& content = bytes->data();
-        Safe_write(file, {content.constData(), static_cast<std::size_t>(content.size())}, OldTail::drop, "EndDoc");
+        Safe_write(file, {content.constData(), static_cast<std::size_t>(content.size())}, {OldTail::drop}, "EndDoc");
     });
 }
 

@@ -349,6 +349,20 @@ TEST_F(CheckProjects, several_projects_are_independent_and_the_worst_status_coun
     }
 }
 
+TEST_F(CheckProjects, a_half_written_project_is_mended_and_told) {
+    ASSERT_EQ(Tool({"--json", "--save", File("holds")}).err, "");
+    test::Write_file(folder / ".holds.undo", test::Read_file(File("holds")));
+    const ToolRun whole = Tool({"--json", File("holds")});
+    EXPECT_EQ(whole.err, "");
+    test::Write_file(folder / ".holds.undo", test::Read_file(File("holds")));
+    test::Write_file(folder / "holds", "half");
+    const ToolRun mended = Tool({"--json", File("holds")});
+    EXPECT_EQ(mended.out, whole.out);
+    EXPECT_NE(mended.err.find("holds: was left half-written; its former content is back, what was there lies in "),
+              std::string::npos);
+    EXPECT_NE(mended.err.find("holds~\n"), std::string::npos);
+}
+
 TEST_F(CheckProjects, an_unreadable_project_is_named_with_what_was_expected) {
     test::Write_file(folder / "damaged", "Eng");
     struct Row {

@@ -3,26 +3,28 @@
 #include <gtest/gtest.h>
 
 #include <csignal>
-#include <sched.h>
-#include <sys/mount.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
 #include "tests/support/Files.h"
+#include "tests/support/Processes.h"
 
 namespace tarnvik {
 namespace {
 
 namespace fs = std::filesystem;
 using test::Fault_of;
+using test::In_a_child;
+using test::Mount_small_disk;
+using test::no_mount;
 using test::Read_file;
 using test::TemporaryFolder;
+using test::With_own_mounts;
 using test::Write_file;
 
 int Save(const fs::path& path, std::string_view content, OldTail tail = OldTail::keep) {
-    return Fault_of([&] { Safe_write(path, content, tail, "Test"); });
+    return Fault_of([&] { Safe_write(path, content, {tail}, "Test"); });
 }
 
 TEST(SafeWrite, a_new_file_holds_the_content_and_nothing_else_is_left) {
@@ -170,7 +172,7 @@ TEST(SafeWrite, what_is_no_place_for_a_file_is_refused) {
 TEST(SafeWrite, the_fault_names_the_caller) {
     const TemporaryFolder folder;
     try {
-        Safe_write(folder / "missing/a", "content", OldTail::keep, "Save_project");
+        Safe_write(folder / "missing/a", "content", {}, "Save_project");
         FAIL() << "no fault";
     } catch (const RuntimeFault& fault) {
         EXPECT_EQ(Fault_text(fault), "Run-time error 76: path not found (Save_project)");
@@ -192,17 +194,6 @@ TEST(SafeWrite, a_file_or_folder_without_the_right_to_write_is_refused) {
     EXPECT_EQ(folder.Files(), 1U);
 }
 
-// Runs an action in a process of its own and returns what it returns.
-template <class Action> int In_a_child(Action action) {
-    const pid_t child = fork();
-    if (child == 0) {
-        _exit(action());
-    }
-    int status = 0;
-    waitpid(child, &status, 0);
-    return WIFEXITED(status) ? WEXITSTATUS(status) : -WTERMSIG(status);
-}
-
 // A limit on the size of files stops a write part of the way, as a full disk does.
 TEST(SafeWrite, a_write_that_stops_on_the_way_leaves_the_former_file_and_no_other) {
     const TemporaryFolder folder;
@@ -215,7 +206,7 @@ TEST(SafeWrite, a_write_that_stops_on_the_way_leaves_the_former_file_and_no_othe
             setrlimit(RLIMIT_FSIZE, &limit);
             return Save(folder / "a", std::string(100000, 'n'));
         });
-        EXPECT_EQ(number, fault_path_access) << room; // "file too large" is no full disk
+        EXPECT_EQ(number, fault_disk_full) << room;
         EXPECT_EQ(Read_file(folder / "a"), former) << room;
         EXPECT_EQ(folder.Files(), 1U) << room;
     }
@@ -235,29 +226,17 @@ TEST(SafeWrite, a_killed_process_leaves_the_former_file) {
     });
     EXPECT_EQ(number, -SIGXFSZ);
     EXPECT_EQ(Read_file(folder / "a"), former);
-    // What the killed process left beside the file stands in no later save's way.
+    EXPECT_EQ(folder.Files(), 2U);
+    // The next save removes what the killed process left beside the file.
     EXPECT_EQ(Save(folder / "a", "content"), 0);
     EXPECT_EQ(Read_file(folder / "a").substr(0, 10), "contentfff");
+    EXPECT_EQ(folder.Files(), 1U);
 }
 
 TEST(SafeWrite, a_full_disk_leaves_the_former_file_and_no_other) {
     const TemporaryFolder folder;
-    // A file system of 64 kB, in a name space of its own so that nothing else sees it.
-    constexpr int no_mount = 255;
-    const int number = In_a_child([&] {
-        const std::string user = std::to_string(geteuid());
-        const std::string group = std::to_string(getegid());
-        if (unshare(CLONE_NEWNS) != 0) {
-            // Without the right to mount: where the system lets everybody have name spaces, in one of the user's own.
-            if (unshare(CLONE_NEWUSER | CLONE_NEWNS) != 0) {
-                return no_mount;
-            }
-            std::ofstream{"/proc/self/setgroups"} << "deny";
-            std::ofstream{"/proc/self/uid_map"} << "0 " + user + " 1";
-            std::ofstream{"/proc/self/gid_map"} << "0 " + group + " 1";
-        }
-        if (mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) != 0 ||
-            mount("tmpfs", folder.Path().c_str(), "tmpfs", 0, "size=64k") != 0) {
+    const int number = With_own_mounts([&] {
+        if (!Mount_small_disk(folder.Path())) {
             return no_mount;
         }
         const std::string former(3000, 'f');

@@ -110,6 +110,19 @@ TEST_F(SessionTest, a_failed_opening_is_told_handed_back_and_names_the_project_a
     EXPECT_EQ(s.File_name, path);
 }
 
+TEST_F(SessionTest, a_project_that_a_crash_left_half_written_is_mended_and_told) {
+    Start();
+    const std::filesystem::path path = folder / "joint.tnvik";
+    session.Save(path.string());
+    test::Write_file(folder / ".joint.tnvik.undo", test::Read_file(path));
+    test::Write_file(path, "half");
+    EXPECT_FALSE(session.Open_project(path.string()));
+    ASSERT_TRUE(session.Mended());
+    EXPECT_EQ(test::Read_file(*session.Mended()), "half");
+    EXPECT_FALSE(session.Open_project(path.string()));
+    EXPECT_FALSE(session.Mended());
+}
+
 TEST_F(SessionTest, a_fault_while_the_controls_are_filled_counts_as_one_of_the_opening) {
     Start();
     const std::string path = (folder / "joint.tnvik").string();

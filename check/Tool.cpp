@@ -66,10 +66,10 @@ int Tool::Projects() {
 
 int Tool::Project(const std::string& path) {
     const std::optional<RuntimeFault> failure = session_.Open_project(path);
-    if (session_.Mended()) {
+    if (session_.File().Mended()) {
         err_ << "tarnvik-check: " << path
              << ": was left half-written; its former content is back, what was there lies in "
-             << session_.Mended()->string() << "\n";
+             << session_.File().Mended()->string() << "\n";
     }
     if (failure) {
         err_ << "tarnvik-check: " << path << ": expected a project file: "

@@ -39,6 +39,7 @@ inline constexpr int file_must_exist = 4096;
 
 // What a file dialog is asked for.
 struct FileRequest {
+    std::string folder;    // to start in; empty: the current one
     std::string filter;    // "*.tnvik"
     std::string file_name; // what the dialog starts with
     std::string default_extension;

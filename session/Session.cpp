@@ -6,9 +6,10 @@
 
 namespace tarnvik {
 
-StartReport Session::Start(const std::filesystem::path& folder, std::optional<std::string_view> lang) {
+const StartReport& Session::Start(const std::filesystem::path& folder, std::optional<std::string_view> lang) {
     folder_ = folder;
-    return Start_state(s_, folder, lang);
+    started_ = Start_state(s_, folder, lang);
+    return started_;
 }
 
 PassResult Session::Pass(Showing showing) {
@@ -37,18 +38,20 @@ void Session::Recalculate() {
     }
 }
 
-std::optional<RuntimeFault> Session::Read_project(const std::string& path, const std::function<void()>& show) {
+void Session::Read_project(const std::string& path, const std::function<void()>& show) {
     results_.Forget_splitting(); // a typed he comes with the file, its check does not
     saved_.reset();
-    mended_.reset();
+    Project_record record;
+    Load_project(s_, record, path);
+    Apply_project(s_, record);
+    if (show) {
+        show();
+    }
+}
+
+std::optional<RuntimeFault> Session::Try_read(const std::string& path, const std::function<void()>& show) {
     try {
-        mended_ = Mend_file(path, "Open_project");
-        Project_record record;
-        Load_project(s_, record, path);
-        Apply_project(s_, record);
-        if (show) {
-            show();
-        }
+        Read_project(path, show);
     } catch (const RuntimeFault& fault) {
         Open_project_failed(s_, fault.number, view_.Box());
         return fault;
@@ -57,18 +60,31 @@ std::optional<RuntimeFault> Session::Read_project(const std::string& path, const
 }
 
 std::optional<RuntimeFault> Session::Open_project(const std::string& path, const std::function<void()>& show) {
-    const std::optional<RuntimeFault> failure = Read_project(path, show);
+    std::optional<RuntimeFault> failure;
+    std::optional<std::filesystem::path> mended;
+    try {
+        mended = Mend_file(path, "Open_project");
+        file_.Look_at(path);
+    } catch (const RuntimeFault& fault) {
+        Open_project_failed(s_, fault.number, view_.Box());
+        failure = fault;
+    }
+    if (!failure) {
+        failure = Try_read(path, show);
+    }
+    file_.Note_opened(path, failure, mended);
     Name(path);
     return failure;
 }
 
 std::optional<RuntimeFault> Session::Recover(const std::string& path, const std::string& project,
                                              const std::function<void()>& show) {
-    const std::optional<RuntimeFault> failure = Read_project(path, show);
+    const std::optional<RuntimeFault> failure = Try_read(path, show);
     if (!failure && project.empty()) {
         Name_new_file(s_);
     } else if (!failure) {
         Name(project);
+        file_.Look_at(project);
     }
     return failure;
 }
@@ -88,9 +104,14 @@ Session::Content Session::Content_now(const std::optional<TypedNames>& typed) co
     return content;
 }
 
-void Session::Save(const std::string& path, const std::optional<TypedNames>& typed) {
+void Session::Save(const std::string& path, const std::optional<TypedNames>& typed, bool asked) {
     Content content = Content_now(typed);
-    Save_project(s_, content.record, path);
+    try {
+        file_.Note_saved(path, Save_project(s_, content.record, path, file_.Request(path, asked)));
+    } catch (const RuntimeFault& fault) {
+        file_.Note_not_saved(fault);
+        throw;
+    }
     saved_ = std::move(content);
 }
 

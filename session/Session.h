@@ -19,6 +19,7 @@
 #include "ports/MessageBox.h"
 #include "ports/PrintTarget.h"
 #include "report/PrintReport.h"
+#include "session/File_standing.h"
 #include "session/Standing.h"
 
 namespace tarnvik {
@@ -62,9 +63,12 @@ public:
     // The program's folder, from the start on.
     [[nodiscard]] const std::filesystem::path& Folder() const { return folder_; }
 
+    // What the start found.
+    [[nodiscard]] const StartReport& Started() const { return started_; }
+
     // A new project from the files of the folder, as Start_state. Loading is set until First_pass.
     // Errors: throws DataFileError.
-    StartReport Start(const std::filesystem::path& folder, std::optional<std::string_view> lang = std::nullopt);
+    const StartReport& Start(const std::filesystem::path& folder, std::optional<std::string_view> lang = std::nullopt);
 
     enum class Showing : std::uint8_t { screen, nothing };
 
@@ -85,14 +89,15 @@ public:
     // restores nothing, and is handed back. The project has its name in any case. The caller's pass ends the opening.
     std::optional<RuntimeFault> Open_project(const std::string& path, const std::function<void()>& show = {});
 
-    // What the last opening found half-written and put right: where that lies now. Nothing after any other.
-    [[nodiscard]] const std::optional<std::filesystem::path>& Mended() const { return mended_; }
+    // What the last opening or saving has to say for itself.
+    [[nodiscard]] const FileStanding& File() const { return file_; }
 
     // The path of the project from now on.
     void Name(const std::string& path);
 
-    // Writes the project, which keeps its name. Errors: throws RuntimeFault, as Safe_write.
-    void Save(const std::string& path, const std::optional<TypedNames>& typed = std::nullopt);
+    // Writes the project, which keeps its name. What would be lost by it is kept as NAME~: FileStanding::Request.
+    // Errors: throws RuntimeFault, as Safe_write.
+    void Save(const std::string& path, const std::optional<TypedNames>& typed = std::nullopt, bool asked = true);
 
     // What Save would write now, as bytes.
     [[nodiscard]] std::string Bytes(const std::optional<TypedNames>& typed = std::nullopt) const;
@@ -120,16 +125,18 @@ private:
         friend bool operator==(const Content& one, const Content& other) = default;
     };
     [[nodiscard]] Content Content_now(const std::optional<TypedNames>& typed) const;
-    std::optional<RuntimeFault> Read_project(const std::string& path, const std::function<void()>& show);
+    void Read_project(const std::string& path, const std::function<void()>& show);
+    std::optional<RuntimeFault> Try_read(const std::string& path, const std::function<void()>& show);
 
     ConnectionState& s_;
     SessionView& view_;
     std::filesystem::path folder_;
+    StartReport started_;
     Screen screen_;
     Standing results_;
     std::optional<Content> saved_; // nothing: no file holds what a failed opening left
     SpacingTexts report_texts_;    // outlive a print
-    std::optional<std::filesystem::path> mended_;
+    FileStanding file_;
 };
 
 } // namespace tarnvik

@@ -88,6 +88,7 @@ frmSetup::frmSetup(QWidget& window, Session& session, Editing& editing)
     all->setContentsMargins(gap, gap, gap, gap);
     all->setSpacing(gap);
     all->addWidget(annex);
+    Add_file_lines();
     Add_commands();
     all->setSizeConstraint(QLayout::SetFixedSize);
 
@@ -168,12 +169,53 @@ void frmSetup::Add_commands() {
     });
 }
 
+// No box tells of a failure: a line of the window does.
 void frmSetup::Save() {
     State_to_setup(session_.State());
     try {
         Write_setup(session_.State().Setup, session_.Folder());
-    } catch (const RuntimeFault&) { // NOLINT(bugprone-empty-catch): a failed statement of the writer is skipped
+        state_ = Saved::done;
+    } catch (const RuntimeFault& fault) {
+        state_ = Saved::failed;
+        failure_ = Save_words(fault);
     }
+    Write_file_lines();
+}
+
+void frmSetup::Add_file_lines() {
+    files_ = new QLabel{this};
+    files_->setObjectName(QStringLiteral("Lbl_setup_files"));
+    saved_ = new QLabel{this};
+    saved_->setObjectName(QStringLiteral("Lbl_setup_saved"));
+    for (QLabel* line : {files_, saved_}) {
+        line->setTextFormat(Qt::PlainText);
+        layout()->addWidget(line);
+    }
+}
+
+void frmSetup::Write_file_lines() {
+    const bool english = Is_english(session_.State());
+    const std::string read = setup_file_read;
+    const std::string written = setup_file_written;
+    const bool was_read = !session_.Started().setup || session_.Started().setup->line > 0;
+    std::string text;
+    if (english) {
+        text = (was_read ? "Read at the start: " : "Not read at the start: ") + read +
+               "\nSave to file writes: " + written + "\nIt counts from the next start if it is renamed to " + read +
+               ".";
+    } else {
+        text = (was_read ? "Lest ved start: " : "Ikke lest ved start: ") + read + "\nLagre på fil skriver: " + written +
+               "\nDen gjelder fra neste start hvis den får navnet " + read + ".";
+    }
+    files_->setText(Q(text));
+    files_->setToolTip(Q(session_.Folder().string()));
+    std::string saved;
+    if (state_ == Saved::done) {
+        saved = (english ? "Written: " : "Skrevet: ") + written;
+    } else if (state_ == Saved::failed) {
+        saved = (english ? "Not written: " : "Ikke skrevet: ") + std::string{failure_.In(english)};
+    }
+    saved_->setText(Q(saved));
 }
 
 void frmSetup::Fill_factors() {
@@ -183,6 +225,7 @@ void frmSetup::Fill_factors() {
 }
 
 void frmSetup::Write_captions() {
+    Write_file_lines();
     const bool english = Is_english(session_.State());
     for (const CaptionOf& row : captions) {
         const QString text = Q(english ? row.english : row.norwegian);

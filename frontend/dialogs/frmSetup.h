@@ -3,6 +3,11 @@
 
 #include <QDialog>
 
+#include <cstdint>
+
+#include "calc/Words.h"
+
+class QLabel;
 class QPushButton;
 
 namespace tarnvik {
@@ -29,6 +34,8 @@ private:
     void Add_factors(Frame& frame);
     void Connect_factor(TextBox& box, const FactorRow& factor, const char* next);
     void Add_commands();
+    void Add_file_lines();
+    void Write_file_lines();
     void Write_captions();
     void Fill_factors();
     void Set_language(const char* Lang);
@@ -37,6 +44,10 @@ private:
 
     Session& session_;
     Editing& editing_;
+    QLabel* files_{}; // which setup file was read, and which one is written
+    QLabel* saved_{}; // what became of the last saving
+    enum class Saved : std::uint8_t { not_yet, done, failed } state_{};
+    Words failure_;
 };
 
 } // namespace tarnvik

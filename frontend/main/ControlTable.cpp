@@ -148,6 +148,7 @@ constexpr std::array control_rows{
     ControlRow{"Pic_av_bulldog_dif",      table,          "Fra_av_bulldog_verdier", "",            0, 0, 0, 0},
 
     // The program's own, placed by frontend/main/Marks.cpp.
+    ControlRow{"Lbl_file",                mark,           "Fra_results",            "",            0, 0, 0, 0},
     ControlRow{"Lbl_current",             mark,           "Fra_results",            "",            0, 0, 0, 0},
     ControlRow{"Lbl_verdict",             mark,           "Fra_results",            "",            0, 0, 0, 0},
     ControlRow{"Lbl_sign",                mark,           "Fra_last",               "",            0, 0, 0, 0},

@@ -50,12 +50,14 @@ std::string Cure(bool english, bool tension_selected) {
 } // namespace
 
 Marks::Marks(const MainControls& controls, const Session& session)
-    : session_(session), s_(session.State()), current_(controls.Find<QLabel>("Lbl_current")),
-      verdict_(controls.Find<QLabel>("Lbl_verdict")), sign_(controls.Find<QLabel>("Lbl_sign")),
-      splitting_(controls.Find<QLabel>("Lbl_tverr_current")), compression_(controls.Find<QAbstractButton>("Opt_trykk")),
+    : session_(session), s_(session.State()), file_(controls.Find<QLabel>("Lbl_file")),
+      current_(controls.Find<QLabel>("Lbl_current")), verdict_(controls.Find<QLabel>("Lbl_verdict")),
+      sign_(controls.Find<QLabel>("Lbl_sign")), splitting_(controls.Find<QLabel>("Lbl_tverr_current")),
+      compression_(controls.Find<QAbstractButton>("Opt_trykk")),
       tension_(controls.Find<QAbstractButton>("Opt_strekk")), arrangements_{
                                                                   &controls.Find<ChoiceButton>("Cmd_boltetype(0)"),
                                                                   &controls.Find<ChoiceButton>("Cmd_boltetype(1)")} {
+    Prepare(file_, result_points, true);
     Prepare(current_, result_points, true);
     Prepare(verdict_, result_points, true);
     Prepare(sign_, sign_points, false);
@@ -69,18 +71,21 @@ void Marks::Show() const {
     Show_arrangement();
 }
 
-// One place: what is not current comes before the verdict.
+// One place: what could not be opened or saved comes first, then what is not current, then the verdict.
 void Marks::Show_results(bool english) const {
+    const FileStanding& file = session_.File();
+    const std::string of_file = file.Text(english);
+    Say(file_, of_file, file.Failed() ? colour_fails : colour_unchecked, file.Paths());
     const Standing& results = session_.Results();
     const std::string not_current = results.Not_current(s_, english);
-    Say(current_, not_current, colour_fails,
+    Say(current_, of_file.empty() ? not_current : std::string{}, colour_fails,
         english ? "The results shown belong to former inputs." : "Resultatene som vises hører til tidligere verdier.");
     const bool current = not_current.empty();
     const bool splitting = results.Splitting_current(s_);
     const Verdict verdict = Verdict_of(s_, splitting);
     const bool fails = std::any_of(verdict.checks.begin(), verdict.checks.end(),
                                    [](const CheckResult& check) { return check.Fails(); });
-    Say(verdict_, current ? Verdict_text(verdict, english) : std::string{},
+    Say(verdict_, current && of_file.empty() ? Verdict_text(verdict, english) : std::string{},
         verdict.Holds() ? colour_holds
         : fails         ? colour_fails
                         : colour_unchecked,
@@ -130,6 +135,7 @@ void Place_marks(Boxes& boxes, const QFont& font, double dots_per_inch) {
         const double left = title_end(frame);
         boxes[mark] = Box{left, 0.0, boxes[frame].width - left - gap / 3.0, std::min(line, boxes[below].top)};
     };
+    in_title_row("Lbl_file", "Fra_results", "Fra_bolt_kap");
     in_title_row("Lbl_current", "Fra_results", "Fra_bolt_kap");
     in_title_row("Lbl_verdict", "Fra_results", "Fra_bolt_kap");
     in_title_row("Lbl_sign", "Fra_last", "Pic_last");

@@ -34,6 +34,7 @@ private:
 
     const Session& session_;
     const ConnectionState& s_;
+    QLabel& file_;
     QLabel& current_;
     QLabel& verdict_;
     QLabel& sign_;

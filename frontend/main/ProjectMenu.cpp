@@ -2,7 +2,9 @@
 
 #include <QAction>
 
+#include <filesystem>
 #include <optional>
+#include <system_error>
 #include <utility>
 
 #include "calc/RuntimeFault.h"
@@ -52,8 +54,17 @@ void ProjectMenu::File_menu(int Index) {
     }
 }
 
+// Where the last project lay that was opened or saved, in this run or before.
+std::string ProjectMenu::Last_folder() const {
+    const ConnectionState& s = session_.State();
+    const std::filesystem::path last = s.File_named ? s.File_name : recent_(1).visible ? Recent_path(recent_, 1) : "";
+    std::error_code ignored;
+    return std::filesystem::is_directory(last.parent_path(), ignored) ? last.parent_path().string() : std::string{};
+}
+
 void ProjectMenu::Open() {
     FileRequest request;
+    request.folder = Last_folder();
     request.filter = "*.tnvik";
     request.file_name = "*.tnvik";
     request.flags = file_must_exist | hide_read_only;
@@ -68,12 +79,12 @@ void ProjectMenu::Open() {
 void ProjectMenu::Save() {
     ConnectionState& s = session_.State();
     try {
-        session_.Save(s.File_name, boxes_.Names());
+        session_.Save(s.File_name, boxes_.Names(), s.File_named);
         s.File_named = true;
-        emit Stored();
     } catch (const RuntimeFault& fault) {
         services_.boxes.Show(Fault_text(fault), box_plain);
     }
+    emit Stored();
 }
 
 void ProjectMenu::Save_as() {

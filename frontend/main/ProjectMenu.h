@@ -44,6 +44,7 @@ private:
     // File menu: 1 open, 2 save, 3 save as.
     void File_menu(int Index);
     void Open();
+    [[nodiscard]] std::string Last_folder() const;
     void Save();
     void Save_as();
     void Recent_open(int Index);

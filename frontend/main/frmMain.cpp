@@ -40,6 +40,7 @@ frmMain::frmMain(ConnectionState& state, const Services& services, Folders folde
       classes_(std::make_unique<Frm_tarn_vik_fak_klass>(*this, session_)) {
     connect(&projects_, &ProjectMenu::Named, this, &frmMain::Set_caption);
     connect(&projects_, &ProjectMenu::Stored, &recovery_, &Recovery::Note);
+    connect(&projects_, &ProjectMenu::Stored, &marks_, &Marks::Show);
     connect(&editing_, &BoxEditing::Refused, &marks_, &Marks::Show);
     connect(&boxes_, &InputBoxes::Splitting_checked, &marks_, &Marks::Show);
     Connect_windows();

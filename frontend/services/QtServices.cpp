@@ -98,7 +98,8 @@ void QtBoxService::Show_box(const Pending& pending) {
 }
 
 std::optional<std::string> QtFileDialogs::Open(const FileRequest& request) {
-    const QString path = QFileDialog::getOpenFileName(QApplication::activeWindow(), {}, QDir::currentPath(),
+    const QString path = QFileDialog::getOpenFileName(QApplication::activeWindow(), {},
+                                                      request.folder.empty() ? QDir::currentPath() : Q(request.folder),
                                                       Q("Tarnvik (" + request.filter + ")"), nullptr, No_options());
     return path.isEmpty() ? std::nullopt : std::optional{U(path)};
 }

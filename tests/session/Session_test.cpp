@@ -117,10 +117,10 @@ TEST_F(SessionTest, a_project_that_a_crash_left_half_written_is_mended_and_told)
     test::Write_file(folder / ".joint.tnvik.undo", test::Read_file(path));
     test::Write_file(path, "half");
     EXPECT_FALSE(session.Open_project(path.string()));
-    ASSERT_TRUE(session.Mended());
-    EXPECT_EQ(test::Read_file(*session.Mended()), "half");
+    ASSERT_TRUE(session.File().Mended());
+    EXPECT_EQ(test::Read_file(*session.File().Mended()), "half");
     EXPECT_FALSE(session.Open_project(path.string()));
-    EXPECT_FALSE(session.Mended());
+    EXPECT_FALSE(session.File().Mended());
 }
 
 TEST_F(SessionTest, a_fault_while_the_controls_are_filled_counts_as_one_of_the_opening) {

@@ -284,6 +284,32 @@ TEST_F(Dialogs, ok_of_the_setup_does_not_act_over_a_refused_factor) {
     EXPECT_EQ(boxes.messages.size(), 1U);
 }
 
+TEST_F(Dialogs, the_setup_tells_which_file_was_read_and_what_became_of_the_one_that_it_writes) {
+    Start("Eng");
+    Menu("mnusetup", [this](QWidget& dialog) {
+        const std::string files = Text_of(Find_in<QLabel>(dialog, "Lbl_setup_files"));
+        EXPECT_TRUE(files.starts_with("Read at the start: Tarnviksetup.csv\nSave to file writes: Tarviksetup.csv\n"));
+        EXPECT_NE(files.find("renamed to Tarnviksetup.csv"), std::string::npos) << files;
+        EXPECT_EQ(Text_of(Find_in<QLabel>(dialog, "Lbl_setup_saved")), "");
+        Click(Find_in<QWidget>(dialog, "Cmd_save"));
+        EXPECT_EQ(Text_of(Find_in<QLabel>(dialog, "Lbl_setup_saved")), "Written: Tarviksetup.csv");
+        std::filesystem::remove(folder / "Tarviksetup.csv");
+        std::filesystem::create_directory(folder / "Tarviksetup.csv"); // in the way
+        Click(Find_in<QWidget>(dialog, "Cmd_nor"));
+        Click(Find_in<QWidget>(dialog, "Cmd_save"));
+        EXPECT_EQ(Text_of(Find_in<QLabel>(dialog, "Lbl_setup_saved")), "Ikke skrevet: filen kan ikke skrives");
+        EXPECT_TRUE(boxes.messages.empty());
+    });
+    std::filesystem::remove(folder / "Tarnviksetup.csv");
+    window->close();
+    Start_as_is();
+    Answer();
+    Menu("mnusetup", [](QWidget& dialog) {
+        EXPECT_TRUE(
+            Text_of(Find_in<QLabel>(dialog, "Lbl_setup_files")).starts_with("Ikke lest ved start: Tarnviksetup"));
+    });
+}
+
 TEST_F(Dialogs, ok_keeps_the_setup_and_calculates) {
     Start();
     Menu("mnusetup", [this](QWidget& dialog) {

@@ -473,5 +473,73 @@ TEST_F(Files, a_recent_entry_whose_file_is_gone) {
     EXPECT_EQ(passes, 1);
 }
 
+// What the files have to say, in the title row of the results.
+
+TEST_F(Files, a_failed_opening_is_told_before_anything_else_until_one_that_works) {
+    Start("Eng");
+    Save_as(Path("one.tnvik"));
+    Open(Path("missing.tnvik"));
+    EXPECT_EQ(Text("Lbl_file"), "Not opened: file not found");
+    EXPECT_EQ(Fore("Lbl_file"), red);
+    EXPECT_TRUE(Visible("Lbl_file"));
+    EXPECT_FALSE(Visible("Lbl_verdict"));
+    EXPECT_FALSE(Visible("Lbl_current"));
+    Enter_value("Txt_last", "7");
+    EXPECT_TRUE(Visible("Lbl_file")); // a pass does not end it
+    Open(Path("one.tnvik"));
+    EXPECT_FALSE(Visible("Lbl_file"));
+    EXPECT_TRUE(Visible("Lbl_verdict"));
+}
+
+TEST_F(Files, a_save_as_that_fails_in_silence_is_told_in_the_line_in_the_language) {
+    Start("Nor");
+    Save_as(Path("no folder/one.tnvik"));
+    EXPECT_TRUE(boxes.messages.empty());
+    EXPECT_EQ(Text("Lbl_file"), "Ikke lagret: mappen finnes ikke");
+    Save_as(Path("one.tnvik"));
+    EXPECT_FALSE(Visible("Lbl_file"));
+}
+
+TEST_F(Files, a_save_over_what_could_not_be_opened_keeps_it) {
+    Start("Eng");
+    Write_file(work / "cut.tnvik", "what is left");
+    Open(Path("cut.tnvik"));
+    Menu("mnuFileItem(2)");
+    EXPECT_EQ(Read_file(work / "cut.tnvik~"), "what is left");
+    EXPECT_EQ(Text("Lbl_file"), "Saved; what could not be opened is kept as cut.tnvik~");
+    EXPECT_EQ(Read(Path("cut.tnvik")).P, s.P);
+}
+
+TEST_F(Files, save_without_a_name_keeps_the_file_that_is_in_its_way) {
+    Start("Eng");
+    Write_file(work / "New File", "of another day");
+    Menu("mnuFileItem(2)");
+    EXPECT_EQ(Read_file(work / "New File~"), "of another day");
+    EXPECT_TRUE(Visible("Lbl_file"));
+}
+
+TEST_F(Files, open_starts_where_the_last_project_lay) {
+    Start();
+    Open(Path("missing.tnvik"));
+    EXPECT_EQ(dialogs.asked.back().request.folder, ""); // nothing known: the current folder
+    EXPECT_EQ(dialogs.asked.back().request.file_name, "*.tnvik");
+    std::filesystem::create_directory(work / "houses");
+    Save_as(Path("houses/one.tnvik"));
+    Open(Path("houses/one.tnvik"));
+    EXPECT_EQ(dialogs.asked.back().request.folder, Path("houses"));
+}
+
+TEST_F(Files, open_starts_where_the_last_project_of_a_former_run_lay) {
+    std::filesystem::create_directory(work / "houses");
+    Know({Path("houses/one.tnvik")});
+    Start();
+    Open(Path("houses/one.tnvik"));
+    EXPECT_EQ(dialogs.asked.back().request.folder, Path("houses"));
+    Know({Path("gone/one.tnvik")});
+    Start();
+    Open(Path("houses/one.tnvik"));
+    EXPECT_EQ(dialogs.asked.back().request.folder, ""); // a folder that is gone
+}
+
 } // namespace
 } // namespace tarnvik::test

@@ -37,6 +37,12 @@ inline constexpr int prompt_on_overwrite = 2;
 inline constexpr int hide_read_only = 4; // no box for opening read-only
 inline constexpr int file_must_exist = 4096;
 
+// What a file dialog says, in the program's language.
+struct FileDialogWords {
+    std::string caption, accept, cancel, look_in, file_name, file_type;
+    std::string files; // what the filter finds: "Tarnvik projects"
+};
+
 // What a file dialog is asked for.
 struct FileRequest {
     std::string folder;    // to start in; empty: the current one
@@ -44,6 +50,7 @@ struct FileRequest {
     std::string file_name; // what the dialog starts with
     std::string default_extension;
     int flags{}; // joined by |
+    FileDialogWords words{};
 };
 
 class FileDialogs {
@@ -64,8 +71,9 @@ inline constexpr int hide_print_to_file = 0x10'0000; // no box for printing to a
 
 // What the printer dialog is asked for.
 struct PrinterRequest {
-    int flags{};          // joined by |
-    std::string document; // the job's name
+    int flags{};           // joined by |
+    std::string document;  // the job's name
+    std::string caption{}; // in the program's language
 };
 
 class PrinterService {

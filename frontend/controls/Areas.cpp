@@ -1,5 +1,6 @@
 #include "frontend/controls/Areas.h"
 
+#include <QAccessible>
 #include <QFontMetricsF>
 #include <QPainter>
 #include <QStyleOptionButton>
@@ -8,6 +9,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "frontend/controls/ReadLines.h"
 #include "frontend/controls/Style.h"
 #include "frontend/painting/PictureStore.h"
 #include "frontend/painting/SetText.h"
@@ -17,12 +19,21 @@ namespace tarnvik {
 
 namespace {
 
+constexpr float off_row = 3.0F; // the word of a sum row stands a little off its line
+
 // The ring of the one in force.
 void Draw_chosen(QPainter& painter, const QWidget& button) {
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen{button.palette().color(QPalette::Highlight), Scaled(2, button.logicalDpiX()) * 1.0});
     painter.setBrush(Qt::NoBrush);
     painter.drawRoundedRect(QRectF{button.rect()}.adjusted(1.5, 1.5, -1.5, -1.5), 3.0, 3.0);
+}
+
+void Tell_chosen(QWidget& button) {
+    QAccessible::State changed;
+    changed.checked = true;
+    QAccessibleStateChangeEvent event{&button, changed};
+    QAccessible::updateAccessibility(&event);
 }
 
 } // namespace
@@ -33,8 +44,11 @@ void PictureButton::Set_picture(const std::string& key) {
 }
 
 void PictureButton::Set_pressed_look(bool chosen) {
-    chosen_ = chosen;
-    update();
+    if (chosen_ != chosen) {
+        chosen_ = chosen;
+        update();
+        Tell_chosen(*this);
+    }
 }
 
 void PictureButton::paintEvent(QPaintEvent* /*event*/) {
@@ -67,6 +81,7 @@ void ChoiceButton::Set_pressed_look(bool chosen) {
     if (chosen_ != chosen) {
         chosen_ = chosen;
         update();
+        Tell_chosen(*this);
     }
 }
 
@@ -99,8 +114,21 @@ void PictureArea::paintEvent(QPaintEvent* /*event*/) {
 }
 
 void TableArea::Set_rows(std::span<const PositionedText> rows) {
+    const bool told = QAccessible::isActive();
+    const QStringList former = told ? Lines() : QStringList{};
     rows_.assign(rows.begin(), rows.end());
     update();
+    if (told && Lines() != former) {
+        QAccessibleTextUpdateEvent event{this, 0, former.join(QLatin1Char('\n')), Lines().join(QLatin1Char('\n'))};
+        QAccessible::updateAccessibility(&event);
+    }
+}
+
+QStringList TableArea::Lines() const {
+    std::vector<PositionedText> rows = rows_;
+    std::stable_sort(rows.begin(), rows.end(),
+                     [](const PositionedText& one, const PositionedText& other) { return one.y > other.y; });
+    return Read_lines(rows, off_row);
 }
 
 QFont TableArea::Row_font(bool bold) const {
@@ -118,10 +146,10 @@ std::vector<TableArea::Placed> TableArea::Place_rows() const {
     placed.reserve(rows_.size());
     for (const PositionedText& row : rows_) {
         const QFontMetricsF& metrics = row.bold ? bold : plain;
-        // The next text on the same line ends the room; the word of a sum row stands a little off its line.
+        // The next text on the same line ends the room.
         double end = width() - 1.0;
         for (const PositionedText& other : rows_) {
-            if (other.x > row.x && std::fabs(other.y - row.y) < 3.0F) {
+            if (other.x > row.x && std::fabs(other.y - row.y) < off_row) {
                 end = std::min(end, static_cast<double>(other.x) * x_unit);
             }
         }

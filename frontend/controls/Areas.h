@@ -5,6 +5,7 @@
 #include <QFont>
 #include <QPushButton>
 #include <QRectF>
+#include <QStringList>
 #include <QWidget>
 
 #include <span>
@@ -24,6 +25,7 @@ public:
     using QAbstractButton::QAbstractButton;
     void Set_picture(const std::string& key);
     void Set_pressed_look(bool chosen);
+    [[nodiscard]] bool Pressed_look() const { return chosen_; }
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -79,6 +81,8 @@ public:
     using QWidget::QWidget;
     void Set_rows(std::span<const PositionedText> rows);
     [[nodiscard]] const std::vector<PositionedText>& Rows() const { return rows_; }
+    // As they are read: a line for each row.
+    [[nodiscard]] QStringList Lines() const;
 
     // Where the texts are drawn, in pixels: each in its own room, which ends before the next text of the same line.
     struct Placed {

@@ -61,7 +61,7 @@ void Frame::paintEvent(QPaintEvent* /*event*/) {
 void Label::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter{this};
     painter.setPen(palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, foregroundRole()));
-    Draw_text(painter, text(), font(), QRectF{rect()}, alignment());
+    Draw_text(painter, text(), font(), QRectF{contentsRect()}, alignment());
 }
 
 void CornerLabel::Set_texts(QStringList texts) {

@@ -37,6 +37,14 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 };
 
+// A label that shows a value behind its caption. Its accessible name has "%1" where the value is read.
+class ValueLabel : public Label {
+    Q_OBJECT
+
+public:
+    using Label::Label;
+};
+
 // A label in the corner of a menu bar, which gives it its place once: it asks for room for the widest of its texts,
 // also while it shows none.
 class CornerLabel : public Label {

@@ -8,6 +8,7 @@
 #include <numeric>
 
 #include "frontend/controls/Areas.h"
+#include "frontend/controls/ReadLines.h"
 #include "frontend/painting/Texts.h"
 
 namespace tarnvik {
@@ -30,12 +31,7 @@ QString Right_trimmed(const std::string& text) {
 
 void PaintedArea::Set_painting(Painting painting) {
     painting_ = std::move(painting);
-    QString words;
-    for (const PaintedText& text : painting_.texts) {
-        words += Right_trimmed(text.text) + QLatin1Char('\n');
-    }
     setAccessibleName(Q(painting_.caption));
-    setAccessibleDescription(words);
     for (auto* area : findChildren<PictureArea*>()) {
         area->hide();
     }
@@ -44,7 +40,6 @@ void PaintedArea::Set_painting(Painting painting) {
         if (area == nullptr) {
             area = new PictureArea{this};
             area->setObjectName(Q(picture.control));
-            area->setAccessibleName(Q(picture.control));
             area->Set_framed(false);
         }
         area->Set_picture(picture.key);
@@ -52,6 +47,11 @@ void PaintedArea::Set_painting(Painting painting) {
     }
     Place_pictures();
     update();
+}
+
+QStringList PaintedArea::Lines() const {
+    constexpr float off_row = 1.0F; // an index or a power
+    return Read_lines(painting_.texts, off_row);
 }
 
 void PaintedArea::Place_pictures() {

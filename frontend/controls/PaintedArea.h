@@ -4,6 +4,7 @@
 
 #include <QFont>
 #include <QRectF>
+#include <QStringList>
 #include <QWidget>
 
 #include <string_view>
@@ -22,6 +23,8 @@ public:
     // Shows texts and pictures. A picture gets its control where there is none of that name yet.
     void Set_painting(Painting painting);
     [[nodiscard]] const Painting& Shown() const { return painting_; }
+    // The texts as they are read, in their order: a line for each row.
+    [[nodiscard]] QStringList Lines() const;
 
     // Where the texts are drawn, in pixels.
     struct Placed {

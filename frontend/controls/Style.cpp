@@ -6,6 +6,7 @@
 #include <QStyleOption>
 #include <QWidget>
 
+#include "frontend/controls/Accessible.h"
 #include "frontend/painting/Texts.h"
 
 namespace tarnvik {
@@ -62,6 +63,7 @@ int TarnvikStyle::styleHint(StyleHint hint, const QStyleOption* option, const QW
 }
 
 void Set_looks(QApplication& application) {
+    Install_accessibility();
     QApplication::setStyle(new TarnvikStyle);
     QPalette palette;
     const QColor ground{0xf0, 0xf0, 0xf0};

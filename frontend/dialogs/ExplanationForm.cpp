@@ -8,6 +8,7 @@
 #include <string>
 
 #include "frontend/controls/Controls.h"
+#include "frontend/controls/Descriptions.h"
 #include "frontend/controls/PaintedArea.h"
 #include "frontend/painting/Texts.h"
 #include "session/Session.h"
@@ -72,6 +73,7 @@ void ExplanationForm::showEvent(QShowEvent* event) {
     Painting painting = Paint_explanation(explanation_, session_.State());
     setWindowTitle(Q(painting.caption));
     findChild<PaintedArea*>(Q(explanation_.text_control))->Set_painting(std::move(painting));
+    Describe(*this, explanation_.name, Is_english(session_.State()));
     QDialog::showEvent(event);
 }
 

@@ -7,6 +7,7 @@
 #include <string>
 
 #include "frontend/controls/Controls.h"
+#include "frontend/controls/Descriptions.h"
 #include "frontend/dialogs/ExplanationForm.h"
 #include "frontend/painting/Texts.h"
 #include "session/Session.h"
@@ -32,12 +33,11 @@ Frm_tarn_vik_fak_klass::Frm_tarn_vik_fak_klass(QWidget& window, Session& session
     auto* service = new Frame{this};
     service->setObjectName(QStringLiteral("Fra_klimaklasse"));
     Add_options(*load, "Opt_Lastvarighet", load_classes, false, &ConnectionValues::Lastvar);
-    Add_help(*load, "Cmd_lastvar", "Explanation of the load-duration classes", "frm_tarn_vik_lastvarighet");
+    Add_help(*load, "Cmd_lastvar", "frm_tarn_vik_lastvarighet");
     Add_options(*service, "Opt_klimaklasse", service_classes, true, &ConnectionValues::Klima);
-    Add_help(*service, "Cmd_klima", "Explanation of the service classes", "frm_tarn_vik_klima");
+    Add_help(*service, "Cmd_klima", "frm_tarn_vik_klima");
     auto* ok = new DialogButton{QStringLiteral("OK"), this};
     ok->setObjectName(QStringLiteral("Cmd_ok"));
-    ok->setAccessibleName(QStringLiteral("OK"));
     connect(ok, &QAbstractButton::clicked, this, &QDialog::accept);
 }
 
@@ -56,10 +56,9 @@ void Frm_tarn_vik_fak_klass::Add_options(Frame& frame, const char* name, int cou
     }
 }
 
-void Frm_tarn_vik_fak_klass::Add_help(Frame& frame, const char* name, const char* accessible, const char* explanation) {
+void Frm_tarn_vik_fak_klass::Add_help(Frame& frame, const char* name, const char* explanation) {
     auto* help = new DialogButton{QStringLiteral("?"), &frame};
     help->setObjectName(QLatin1String(name));
-    help->setAccessibleName(QLatin1String(accessible));
     connect(help, &QAbstractButton::clicked, this, [this, explanation] {
         ExplanationForm window{window_, *this, session_, explanation};
         window.exec();
@@ -87,6 +86,10 @@ void Frm_tarn_vik_fak_klass::Set_caption_of(std::string_view control, std::strin
     } else if (QAbstractButton* button = Button(control)) {
         button->setText(Q(caption));
     }
+}
+
+void Frm_tarn_vik_fak_klass::Describe_controls(bool english) const {
+    Describe(*this, "Frm_tarn_vik_fak_klass", english);
 }
 
 void Frm_tarn_vik_fak_klass::Lay_out() {

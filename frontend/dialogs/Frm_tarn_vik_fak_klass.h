@@ -29,12 +29,15 @@ public:
     // A caption of the language tables; an empty name is the window itself.
     void Set_caption_of(std::string_view control, std::string_view caption);
 
+    // Names for screen readers and tooltips.
+    void Describe_controls(bool english) const;
+
 protected:
     void showEvent(QShowEvent* event) override;
 
 private:
     void Add_options(Frame& frame, const char* name, int count, bool numbered, std::int16_t ConnectionValues::*value);
-    void Add_help(Frame& frame, const char* name, const char* accessible, const char* explanation);
+    void Add_help(Frame& frame, const char* name, const char* explanation);
     void Lay_out();
     [[nodiscard]] QAbstractButton* Button(std::string_view name) const;
 

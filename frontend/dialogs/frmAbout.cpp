@@ -31,7 +31,7 @@ constexpr std::array links{
 } // namespace
 
 frmAbout::frmAbout(QWidget& window, bool english, const AboutTexts& texts, DocumentOpener& opener, MessageBox& boxes)
-    : QDialog(&window), opener_(opener), boxes_(boxes) {
+    : QDialog(&window), english_(english), opener_(opener), boxes_(boxes) {
     setObjectName(QStringLiteral("frmAbout"));
     setWindowTitle(english ? QStringLiteral("About Tarnvik") : QStringLiteral("Om Tarnvik"));
     Add_lines(*Add_icon(), texts);
@@ -86,7 +86,7 @@ void frmAbout::mousePressEvent(QMouseEvent* event) {
         const auto* label = findChild<QLabel*>(QLatin1String(link.name));
         if (label->geometry().contains(event->pos())) {
             if (!opener_.Open_link(link.address)) {
-                boxes_.Show(std::string{"Can't open "} + link.address, box_exclamation);
+                boxes_.Show(std::string{english_ ? "Can't open " : "Kan ikke åpne "} + link.address, box_exclamation);
             }
             return;
         }

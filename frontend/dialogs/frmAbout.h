@@ -26,6 +26,7 @@ private:
     QBoxLayout* Add_icon();
     void Add_lines(QBoxLayout& lines, const AboutTexts& texts);
 
+    bool english_;
     DocumentOpener& opener_;
     MessageBox& boxes_;
 };

@@ -12,6 +12,7 @@
 #include "detail/Detailed_calc.h"
 #include "frontend/controls/Areas.h"
 #include "frontend/controls/Controls.h"
+#include "frontend/controls/Descriptions.h"
 #include "frontend/controls/PaintedArea.h"
 #include "frontend/painting/Texts.h"
 #include "session/Session.h"
@@ -34,7 +35,6 @@ frmDetailed::frmDetailed(QWidget& window, const Session& session)
     for (const EquationPlace& place : equation_places) {
         auto* equation = new PictureArea{area};
         equation->setObjectName(Q(place.control));
-        equation->setAccessibleName(QStringLiteral("Equation of Rk(%1)").arg(QLatin1Char(place.control.back())));
         equation->Set_framed(false);
         equation->Set_picture(place.key);
         equation->setVisible(!place.double_shear);
@@ -105,6 +105,7 @@ void frmDetailed::Show_governing() {
         return;
     }
     governs->setText(Is_english(session_.State()) ? QStringLiteral("governs") : QStringLiteral("avgjørende"));
+    governs->setAccessibleName(Q(label) + QLatin1Char(' ') + governs->text());
     const double top = (100.0 - static_cast<double>(value->y)) / 100.0 * area->height();
     governs->adjustSize();
     governs->move(static_cast<int>(std::lround(0.9 * area->width())), static_cast<int>(std::lround(top)));
@@ -115,6 +116,7 @@ void frmDetailed::showEvent(QShowEvent* event) {
     Painting painting = Paint_detailed(session_.State());
     setWindowTitle(Q(painting.caption));
     findChild<PaintedArea*>(QStringLiteral("Pic_detailed"))->Set_painting(std::move(painting));
+    Describe(*this, "frmDetailed", Is_english(session_.State()));
     Show_standing();
     Show_governing();
     QDialog::showEvent(event);

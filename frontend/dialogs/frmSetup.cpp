@@ -12,6 +12,7 @@
 #include "calc/RuntimeFault.h"
 #include "data/SetupFile.h"
 #include "frontend/controls/Controls.h"
+#include "frontend/controls/Descriptions.h"
 #include "frontend/dialogs/Editing.h"
 #include "frontend/painting/Texts.h"
 #include "ports/MessageBox.h"
@@ -240,6 +241,7 @@ void frmSetup::Write_captions() {
             button->setText(text);
         }
     }
+    Describe(*this, "frmSetup", english);
 }
 
 void frmSetup::Set_language(const char* Lang) {

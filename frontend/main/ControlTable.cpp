@@ -30,16 +30,16 @@ constexpr std::array control_rows{
     ControlRow{"Fra_bulldog",             frame,          "fra_input",              "",            0, 0, 0, 0},
     ControlRow{"Comb_bulldog",            list,           "Fra_bulldog",            "",            0, 0, 0, list_height},
     ControlRow{"Lbl_bulldog1",            label,          "Fra_bulldog",            "",            0, 0, 148, 28},
-    ControlRow{"Lbl_bulldog2",            label,          "Fra_bulldog",            "",            0, 0, 38, 28},
+    ControlRow{"Lbl_bulldog2",            value,          "Fra_bulldog",            "",            0, 0, 38, 28},
 
     ControlRow{"Fra_material",            frame,          "fra_input",              "",            0, 0, 0, 0},
     ControlRow{"cboMat",                  list,           "Fra_material",           "",            8, 19, 96, list_height},
     ControlRow{"Lbl_densitet1",           label,          "Fra_material",           "",            122, 22, 54, line},
-    ControlRow{"lbl_densitet2",           label,          "Fra_material",           "",            177, 22, 32, line},
+    ControlRow{"lbl_densitet2",           value,          "Fra_material",           "",            177, 22, 32, line},
     ControlRow{"Lbl_fc90k1",              label,          "Fra_material",           "fc90k =",     232, 22, 42, line},
-    ControlRow{"Lbl_fc90k2",              label,          "Fra_material",           "",            275, 22, 32, line},
+    ControlRow{"Lbl_fc90k2",              value,          "Fra_material",           "",            275, 22, 32, line},
     ControlRow{"Lbl_gm1",                 label,          "Fra_material",           "gm =",        334, 22, 32, line},
-    ControlRow{"lbl_gm",                  label,          "Fra_material",           "",            367, 22, 36, line},
+    ControlRow{"lbl_gm",                  value,          "Fra_material",           "",            367, 22, 36, line},
 
     ControlRow{"Fra_dim_main",            frame,          "fra_input",              "",            0, 0, 0, 0},
     ControlRow{"Opt_stand",               option,         "Fra_dim_main",           "",            0, 0, 0, 0},
@@ -66,11 +66,11 @@ constexpr std::array control_rows{
 
     ControlRow{"Fra_klasse",              frame,          "fra_input",              "",            0, 0, 0, 0},
     ControlRow{"Lbl_lastvar_1",           label,          "Fra_klasse",             "",            0, 0, 0, line},
-    ControlRow{"Lbl_lastvar_2",           label,          "Fra_klasse",             "",            0, 0, 0, line},
+    ControlRow{"Lbl_lastvar_2",           value,          "Fra_klasse",             "",            0, 0, 0, line},
     ControlRow{"Lbl_klima_1",             label,          "Fra_klasse",             "",            0, 0, 0, line},
-    ControlRow{"Lbl_klima_2",             label,          "Fra_klasse",             "",            0, 0, 14, line},
+    ControlRow{"Lbl_klima_2",             value,          "Fra_klasse",             "",            0, 0, 14, line},
     ControlRow{"Lbl_kmod1",               label,          "Fra_klasse",             "kmod =",      0, 0, 39, line},
-    ControlRow{"Lbl_kmod2",               label,          "Fra_klasse",             "",            0, 0, 36, line},
+    ControlRow{"Lbl_kmod2",               value,          "Fra_klasse",             "",            0, 0, 36, line},
 
     ControlRow{"Fra_type",                frame,          "fra_input",              "",            0, 0, 0, 0},
     ControlRow{"Cmd_type(0)",             picture_button, "Fra_type",               "1",           8, 15, 82, 43},
@@ -94,9 +94,9 @@ constexpr std::array control_rows{
     ControlRow{"Cmd_boltetype(1)",        choice_button,"Fra_bolt_alt",           "Alt. 2",      104, 21, 70, 26},
     ControlRow{"Fra_skive",               frame,          "fra_input",              "",            0, 0, 0, 0},
     ControlRow{"Lbl_skive_diameter1",     label,          "Fra_skive",              "Diameter=",   10, 0, 56, line},
-    ControlRow{"Lbl_skive_diameter2",     label,          "Fra_skive",              "",            74, 0, 50, line},
+    ControlRow{"Lbl_skive_diameter2",     value,          "Fra_skive",              "",            74, 0, 50, line},
     ControlRow{"Lbl_skive_tykk1",         label,          "Fra_skive",              "Tykkelse=",   10, 0, 56, line},
-    ControlRow{"Lbl_skive_tykk2",         label,          "Fra_skive",              "",            0, 0, 50, line},
+    ControlRow{"Lbl_skive_tykk2",         value,          "Fra_skive",              "",            0, 0, 50, line},
 
     ControlRow{"Fra_bolt_for",            frame,          "fra_input",              "",            0, 0, 0, 0},
     ControlRow{"Fra_snitt_1",             frame,          "Fra_bolt_for",           "",            0, 0, 0, 0},
@@ -109,17 +109,17 @@ constexpr std::array control_rows{
     ControlRow{"Fra_results",             frame,          "",                       "Results",     0, 0, 0, 0},
     ControlRow{"Fra_bolt_kap",            frame,          "Fra_results",            "",            0, 0, 0, 0},
     ControlRow{"Lbl_bolt_kap1",           label,          "Fra_bolt_kap",           "",            0, 0, 158, line},
-    ControlRow{"Lbl_bolt_kap2",           label,          "Fra_bolt_kap",           "",            0, 0, 40, line},
+    ControlRow{"Lbl_bolt_kap2",           value,          "Fra_bolt_kap",           "",            0, 0, 40, line},
     ControlRow{"Lbl_bulldog_kap1",        label,          "Fra_bolt_kap",           "",            0, 0, 180, line},
-    ControlRow{"Lbl_bulldog_kap2",        label,          "Fra_bolt_kap",           "",            0, 0, 40, line},
+    ControlRow{"Lbl_bulldog_kap2",        value,          "Fra_bolt_kap",           "",            0, 0, 40, line},
     ControlRow{"Lbl_bolt_kontroll",       label,          "Fra_bolt_kap",           "",            0, 0, 51, line},
-    ControlRow{"Lbl_last_kontroll",       label,          "Fra_bolt_kap",           "",            0, 0, 29, line},
+    ControlRow{"Lbl_last_kontroll",       value,          "Fra_bolt_kap",           "",            0, 0, 29, line},
     ControlRow{"Lbl_strek",               label,          "Fra_bolt_kap",           "/ (",         0, 0, 11, line},
-    ControlRow{"Lbl_Rd_kontroll",         label,          "Fra_bolt_kap",           "",            0, 0, 29, line},
+    ControlRow{"Lbl_Rd_kontroll",         value,          "Fra_bolt_kap",           "",            0, 0, 29, line},
     ControlRow{"Lbl_pluss",               label,          "Fra_bolt_kap",           "+",           0, 0, 9, line},
-    ControlRow{"Lbl_Rd_bulldog_kontroll", label,          "Fra_bolt_kap",           "",            0, 0, 29, line},
+    ControlRow{"Lbl_Rd_bulldog_kontroll", value,          "Fra_bolt_kap",           "",            0, 0, 29, line},
     ControlRow{"Lbl_lik",                 label,          "Fra_bolt_kap",           ") = ",        0, 0, 15, line},
-    ControlRow{"Lbl_uf",                  label,          "Fra_bolt_kap",           "",            0, 0, 40, line},
+    ControlRow{"Lbl_uf",                  value,          "Fra_bolt_kap",           "",            0, 0, 40, line},
     ControlRow{"Cmd_detail",              button,         "Fra_bolt_kap",           "",            0, 0, 0, 0},
     ControlRow{"Fra_tverr_brudd",         frame,          "Fra_bolt_kap",           "",            0, 0, 0, 0},
     ControlRow{"Pic_tverr_brudd",         plain,          "Fra_tverr_brudd",        "",            0, 0, 0, 0},
@@ -127,13 +127,13 @@ constexpr std::array control_rows{
     ControlRow{"Lbl_man_he",              label,          "Pic_tverr_brudd",        "he =",        0, 0, 24, 18},
     ControlRow{"Txt_man_he",              text_box,       "Pic_tverr_brudd",        "",            0, 0, 36, 18},
     ControlRow{"lbl_tverr_1",             label,          "Pic_tverr_brudd",        "",            0, 0, 0, 0},
-    ControlRow{"Lbl_tverr_2",             label,          "Pic_tverr_brudd",        "",            0, 0, 0, 0},
+    ControlRow{"Lbl_tverr_2",             value,          "Pic_tverr_brudd",        "",            0, 0, 0, 0},
     ControlRow{"Cmd_tverr",               button,         "Pic_tverr_brudd",        "?",           0, 0, 40, 20},
     ControlRow{"Fra_nef",                 frame,          "Fra_bolt_kap",           "",            0, 0, 0, 0},
     ControlRow{"Lbl_tot_eff_bolts_1",     label,          "Fra_nef",                "",            0, 0, 0, 0},
-    ControlRow{"Lbl_2_nef_max",           label,          "Fra_nef",                "",            0, 0, 27, 17},
+    ControlRow{"Lbl_2_nef_max",           value,          "Fra_nef",                "",            0, 0, 27, 17},
     ControlRow{"Lbl_tot_eff_bulldog_1",   label,          "Fra_nef",                "",            0, 0, 0, 17},
-    ControlRow{"Lbl_tot_eff_bulldog_2",   label,          "Fra_nef",                "",            0, 0, 25, 17},
+    ControlRow{"Lbl_tot_eff_bulldog_2",   value,          "Fra_nef",                "",            0, 0, 25, 17},
     ControlRow{"lbl_txt_avstand",         label,          "Fra_nef",                "",            0, 0, 0, 0},
     ControlRow{"Comb_bolt_avstand",       list,           "Fra_nef",                "",            0, 0, 54, list_height},
     ControlRow{"Cmd_Bolt_eff_bolt",       button,         "Fra_nef",                "?",           0, 0, 40, 20},
@@ -162,24 +162,24 @@ constexpr std::array buddies{
     Buddy{"Lbl_man_he", "Txt_man_he"},    Buddy{"lbl_txt_avstand", "Comb_bolt_avstand"},
 };
 
-constexpr std::array accessible_names{
-    AccessibleName{"Comb_bolter", "Bolt"},
-    AccessibleName{"Comb_bulldog", "Tooth-plate connector"},
-    AccessibleName{"cboMat", "Timber quality"},
-    AccessibleName{"cboProf1", "Section of member 1"},
-    AccessibleName{"cboProf2", "Section of member 2"},
-    AccessibleName{"Cmd_type(0)", "Connection type 1: top chord on bottom chord"},
-    AccessibleName{"Cmd_type(1)", "Connection type 2: column under beam"},
-    AccessibleName{"Cmd_type(2)", "Connection type 3: collar beam on rafter"},
-    AccessibleName{"Cmd_type(3)", "Connection type 4: beam on column"},
-    AccessibleName{"Cmd_type(4)", "Connection type 5: beam under column"},
-    AccessibleName{"Pic_forbindelse", "Picture of the connection"},
-    AccessibleName{"Pic_av_bolter", "Sketch of the distances of the bolts"},
-    AccessibleName{"Pic_av_bulldog", "Sketch of the distances of the connectors"},
-    AccessibleName{"Pic_av_bolter_dif", "Minimum distances of the bolts"},
-    AccessibleName{"Pic_av_bulldog_dif", "Minimum distances of the connectors"},
-    AccessibleName{"Cmd_tverr", "Explanation of the splitting check"},
-    AccessibleName{"Cmd_Bolt_eff_bolt", "Explanation of the effective number"},
+constexpr std::array captioned{
+    CaptionedValue{"Lbl_bulldog1", "Lbl_bulldog2"},
+    CaptionedValue{"Lbl_densitet1", "lbl_densitet2"},
+    CaptionedValue{"Lbl_fc90k1", "Lbl_fc90k2"},
+    CaptionedValue{"Lbl_gm1", "lbl_gm"},
+    CaptionedValue{"Lbl_lastvar_1", "Lbl_lastvar_2"},
+    CaptionedValue{"Lbl_klima_1", "Lbl_klima_2"},
+    CaptionedValue{"Lbl_kmod1", "Lbl_kmod2"},
+    CaptionedValue{"Lbl_skive_diameter1", "Lbl_skive_diameter2"},
+    CaptionedValue{"Lbl_skive_tykk1", "Lbl_skive_tykk2"},
+    CaptionedValue{"Lbl_bolt_kap1", "Lbl_bolt_kap2"},
+    CaptionedValue{"Lbl_bulldog_kap1", "Lbl_bulldog_kap2"},
+    CaptionedValue{"Lbl_bolt_kontroll", "Lbl_last_kontroll"},
+    CaptionedValue{"Lbl_strek", "Lbl_Rd_kontroll"},
+    CaptionedValue{"Lbl_pluss", "Lbl_Rd_bulldog_kontroll"},
+    CaptionedValue{"lbl_tverr_1", "Lbl_tverr_2"},
+    CaptionedValue{"Lbl_tot_eff_bolts_1", "Lbl_2_nef_max"},
+    CaptionedValue{"Lbl_tot_eff_bulldog_1", "Lbl_tot_eff_bulldog_2"},
 };
 // clang-format on
 
@@ -193,8 +193,8 @@ std::span<const Buddy> Buddies() {
     return buddies;
 }
 
-std::span<const AccessibleName> Accessible_names() {
-    return accessible_names;
+std::span<const CaptionedValue> Captioned_values() {
+    return captioned;
 }
 
 } // namespace tarnvik

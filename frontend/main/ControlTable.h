@@ -1,5 +1,5 @@
-// The controls of the main window as tables: name, kind, parent and what is built in; which label names which box; what
-// a screen reader says of the rest.
+// The controls of the main window as tables: name, kind, parent and what is built in; which label names which box, and
+// which value.
 #pragma once
 
 #include <cstdint>
@@ -10,6 +10,7 @@ namespace tarnvik {
 enum class Kind : std::uint8_t {
     frame,
     label,
+    value,
     mark,
     text_box,
     list,
@@ -43,10 +44,11 @@ struct Buddy {
 };
 std::span<const Buddy> Buddies();
 
-struct AccessibleName {
-    const char* control;
-    const char* name;
+// A value and the caption that it stands behind.
+struct CaptionedValue {
+    const char* caption;
+    const char* value;
 };
-std::span<const AccessibleName> Accessible_names();
+std::span<const CaptionedValue> Captioned_values();
 
 } // namespace tarnvik

@@ -1,5 +1,6 @@
 #include "frontend/main/MainControls.h"
 
+#include <QAccessible>
 #include <QAction>
 #include <QCheckBox>
 #include <QMainWindow>
@@ -7,11 +8,14 @@
 #include <QMenuBar>
 #include <QPushButton>
 
+#include <algorithm>
+#include <cmath>
 #include <stdexcept>
 
 #include "frontend/controls/Areas.h"
 #include "frontend/controls/Controls.h"
 #include "frontend/main/ControlTable.h"
+#include "frontend/painting/SetText.h"
 #include "frontend/painting/Texts.h"
 
 namespace tarnvik {
@@ -45,6 +49,8 @@ QWidget* New_control(const ControlRow& row, QWidget* parent) {
         return new Frame{caption, parent};
     case Kind::label:
         return New_label<Label>(caption, parent);
+    case Kind::value:
+        return New_label<ValueLabel>(caption, parent);
     case Kind::mark:
         return New_label<Mark>(caption, parent);
     case Kind::text_box:
@@ -109,16 +115,10 @@ void MainControls::Name_controls() {
     for (const Buddy& buddy : Buddies()) {
         Find<Label>(buddy.label).setBuddy(&Find<QWidget>(buddy.box));
     }
-    for (const AccessibleName& named : Accessible_names()) {
-        Find<QWidget>(named.control).setAccessibleName(Q(named.name));
-    }
     for (int i = 0; i < 5; ++i) {
         const std::string name = "Cmd_type(" + std::to_string(i) + ")";
-        auto& type = Find<PictureButton>(name);
-        type.Set_picture("frmMain/" + name);
-        type.setToolTip(type.accessibleName());
+        Find<PictureButton>(name).Set_picture("frmMain/" + name);
     }
-    Find<Label>("Lbl_last").setToolTip(QStringLiteral("kN"));
 }
 
 void MainControls::Build_menus(QMainWindow& window) {
@@ -179,9 +179,28 @@ void MainControls::Set_tab_order() {
     }
 }
 
+void Set_values_off(const MainControls& controls) {
+    constexpr double gap = 3.0; // pixels at 96 dots per inch, a blank
+    for (const CaptionedValue& row : Captioned_values()) {
+        const auto& caption = controls.Find<Label>(row.caption);
+        auto& value = controls.Find<ValueLabel>(row.value);
+        const SetText set = Set_text(caption.text(), caption.font(), caption.size());
+        const double end = caption.x() + set.width * set.narrowing;
+        const double missing = Scaled(gap, value.logicalDpiX()) - (value.x() - end);
+        value.setContentsMargins(std::max(0, static_cast<int>(std::ceil(missing))), 0, 0, 0);
+    }
+}
+
 WriteCaption Caption_of(QObject& control) {
     if (auto* label = dynamic_cast<QLabel*>(&control)) {
-        return [label](const QString& text) { label->setText(text); };
+        return [label](const QString& text) {
+            const bool changed = label->text() != text;
+            label->setText(text);
+            if (changed && !label->accessibleName().isEmpty()) { // one without tells it by itself
+                QAccessibleEvent read{label, QAccessible::NameChanged};
+                QAccessible::updateAccessibility(&read);
+            }
+        };
     }
     if (auto* box = dynamic_cast<QLineEdit*>(&control)) {
         return [box](const QString& text) {

@@ -43,6 +43,10 @@ private:
     std::map<std::string, QObject*, std::less<>> controls_;
 };
 
+// Values stand off by a blank from the captions that they follow: by as much as is missing, inside their labels, whose
+// places are given. For the captions and places of this moment.
+void Set_values_off(const MainControls& controls);
+
 // What writes the caption or the text of a control or menu entry; empty for one that has none.
 using WriteCaption = std::function<void(const QString&)>;
 WriteCaption Caption_of(QObject& control);

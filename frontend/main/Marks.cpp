@@ -1,6 +1,7 @@
 #include "frontend/main/Marks.h"
 
 #include <QAbstractButton>
+#include <QAccessible>
 #include <QFontMetricsF>
 #include <QLabel>
 
@@ -18,10 +19,19 @@ constexpr std::uint32_t colour_unchecked = 0x005A9C; // a dark amber: neither ho
 constexpr double result_points = 7.5;                // the title row is lower than a line of the window's text
 constexpr double sign_points = 7.0;
 
+// A screen reader says at once what a mark has to say anew: it speaks an alert that comes up, so one comes up.
 void Say(QLabel& mark, const std::string& text, std::uint32_t colour, const std::string& tip) {
-    mark.setVisible(!text.empty());
+    const bool anew = !text.empty() && mark.text() != Q(text);
+    if (anew) {
+        mark.hide();
+    }
     mark.setText(Q(text));
     mark.setToolTip(Q(tip));
+    mark.setVisible(!text.empty());
+    if (anew) {
+        QAccessibleEvent alert{&mark, QAccessible::Alert};
+        QAccessible::updateAccessibility(&alert);
+    }
     QPalette palette = mark.palette();
     if (palette.color(QPalette::Active, QPalette::WindowText) != To_colour(colour)) {
         palette.setColor(QPalette::WindowText, To_colour(colour));

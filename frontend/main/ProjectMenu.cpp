@@ -12,6 +12,29 @@
 
 namespace tarnvik {
 
+namespace {
+
+FileDialogWords Dialog_words(bool english, bool saves) {
+    if (english) {
+        return {saves ? "Save project as" : "Open project",
+                saves ? "Save" : "Open",
+                "Cancel",
+                "Look in:",
+                "File name:",
+                "Files of type:",
+                "Tarnvik projects"};
+    }
+    return {saves ? "Lagre prosjekt som" : "Åpne prosjekt",
+            saves ? "Lagre" : "Åpne",
+            "Avbryt",
+            "Let i:",
+            "Filnavn:",
+            "Filtype:",
+            "Tarnvik-prosjekter"};
+}
+
+} // namespace
+
 ProjectMenu::ProjectMenu(const MainControls& controls, Session& session, const Services& services, BoxEditing& editing,
                          const InputBoxes& boxes, std::function<void()> show_project)
     : session_(session), services_(services), editing_(editing), boxes_(boxes), show_project_(std::move(show_project)) {
@@ -68,6 +91,7 @@ void ProjectMenu::Open() {
     request.filter = "*.tnvik";
     request.file_name = "*.tnvik";
     request.flags = file_must_exist | hide_read_only;
+    request.words = Dialog_words(Is_english(session_.State()), false);
     const std::optional<std::string> path = services_.files.Open(request);
     if (!path) {
         services_.boxes.Show("Cancel were pressed", box_plain);
@@ -93,6 +117,7 @@ void ProjectMenu::Save_as() {
     request.file_name = session_.State().File_name;
     request.default_extension = "tnvik";
     request.flags = prompt_on_overwrite | hide_read_only;
+    request.words = Dialog_words(Is_english(session_.State()), true);
     const std::optional<std::string> path = services_.files.Save(request);
     if (!path) {
         services_.boxes.Show("Cancel were pressed", box_plain);

@@ -8,6 +8,7 @@
 
 #include "frontend/controls/Areas.h"
 #include "frontend/controls/Controls.h"
+#include "frontend/main/PictureWords.h"
 #include "frontend/painting/Texts.h"
 
 namespace tarnvik {
@@ -85,6 +86,14 @@ void ScreenView::Show_control(const Shown& shown, const ControlView& view) {
     }
 }
 
+void ScreenView::Describe_pictures(const Screen& screen) const {
+    const bool english = Is_english(s_);
+    connection_.setAccessibleDescription(Q(Connection_words(s_, english)));
+    const QString sketched = Q(Case_words(s_, screen.Pic_av_bolter, english));
+    bolt_sketch_.setAccessibleDescription(sketched);
+    connector_sketch_.setAccessibleDescription(sketched);
+}
+
 void ScreenView::Show(const Screen& screen) const {
     const bool loading = std::exchange(s_.Loading, true);
     for (std::size_t i = 0; i < control_count; ++i) {
@@ -95,6 +104,7 @@ void ScreenView::Show(const Screen& screen) const {
     connection_.Set_picture(screen.Pic_forbindelse);
     bolt_sketch_.Set_picture(screen.Pic_av_bolter);
     connector_sketch_.Set_picture(screen.Pic_av_bulldog);
+    Describe_pictures(screen);
     for (std::size_t i = 0; i < types_.size(); ++i) {
         types_[i]->Set_pressed_look(s_.Con_type == static_cast<int>(i) + 1);
     }

@@ -35,6 +35,7 @@ private:
         TextBox* box{};
         ListBox* list{};
     };
+    void Describe_pictures(const Screen& screen) const;
     static void Show_control(const Shown& shown, const ControlView& view);
 
     ConnectionValues& s_;

@@ -3,6 +3,7 @@
 #include <QAction>
 #include <QCloseEvent>
 #include <QDialog>
+#include <QGroupBox>
 #include <QKeySequence>
 #include <QShortcut>
 
@@ -13,6 +14,7 @@
 
 #include "calc/RuntimeFault.h"
 #include "data/SetupFile.h"
+#include "frontend/controls/Descriptions.h"
 #include "frontend/dialogs/ExplanationForm.h"
 #include "frontend/dialogs/Frm_tarn_vik_fak_klass.h"
 #include "frontend/dialogs/frmAbout.h"
@@ -143,6 +145,16 @@ void frmMain::Write_language() {
     } else {
         Norsk(s_, about_, set);
     }
+    Describe_controls();
+    Set_values_off(controls_);
+}
+
+// The members go by the names that the window shows.
+void frmMain::Describe_controls() {
+    const bool english = Is_english(s_);
+    const auto member = [this](const char* frame) { return controls_.Find<QGroupBox>(frame).title().trimmed(); };
+    Describe(*this, "frmMain", english, member("Fra_dim_1"), member("Fra_dim_2"));
+    classes_->Describe_controls(english);
 }
 
 void frmMain::Set_caption() {
@@ -170,9 +182,7 @@ void frmMain::Connect_windows() {
         Show_modal(window);
     });
     // Of the window: a caption that is written anew would take a shortcut of the button's own.
-    const QKeySequence key{Qt::CTRL | Qt::Key_D};
-    detail.setToolTip(key.toString(QKeySequence::NativeText));
-    connect(new QShortcut{key, this}, &QShortcut::activated, &detail, [&detail] {
+    connect(new QShortcut{QKeySequence{Qt::CTRL | Qt::Key_D}, this}, &QShortcut::activated, &detail, [&detail] {
         if (detail.isVisible()) {
             detail.click();
         }
@@ -229,7 +239,8 @@ void frmMain::Open_manual() {
 
 void frmMain::Print_report() {
     try {
-        const auto target = services_.printer.Show_printer({no_selection | hide_print_to_file, s_.Prosjekt});
+        const auto target = services_.printer.Show_printer(
+            {no_selection | hide_print_to_file, s_.Prosjekt, Is_english(s_) ? "Print" : "Skriv ut"});
         if (target != nullptr) {
             session_.Print(*target, services_.clock.Now());
             target->EndDoc();

@@ -75,6 +75,7 @@ private:
     void Show_project();
     void Set_caption();
     void Set_caption_of(std::string_view control, std::string_view caption);
+    void Describe_controls();
 
     // Runs one of the program's own windows as a modal one. The box in editing is left first, and one that is refused
     // keeps the window from opening; afterwards the focus is where an activation of the main window puts it.

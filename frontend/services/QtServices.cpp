@@ -26,8 +26,22 @@ QSettings Open_settings(std::string_view application) {
     return QSettings{QSettings::NativeFormat, QSettings::UserScope, Q(application), Q(application)};
 }
 
-QFileDialog::Options No_options() {
-    return {};
+void Write_words(QFileDialog& dialog, const FileRequest& request) {
+    const FileDialogWords& words = request.words;
+    dialog.setWindowTitle(Q(words.caption));
+    dialog.setNameFilter(Q(words.files + " (" + request.filter + ")"));
+    dialog.setLabelText(QFileDialog::Accept, Q(words.accept));
+    dialog.setLabelText(QFileDialog::Reject, Q(words.cancel));
+    dialog.setLabelText(QFileDialog::LookIn, Q(words.look_in));
+    dialog.setLabelText(QFileDialog::FileName, Q(words.file_name));
+    dialog.setLabelText(QFileDialog::FileType, Q(words.file_type));
+}
+
+std::optional<std::string> Chosen(QFileDialog& dialog) {
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
+        return std::nullopt;
+    }
+    return U(dialog.selectedFiles().constFirst());
 }
 
 } // namespace
@@ -98,26 +112,24 @@ void QtBoxService::Show_box(const Pending& pending) {
 }
 
 std::optional<std::string> QtFileDialogs::Open(const FileRequest& request) {
-    const QString path = QFileDialog::getOpenFileName(QApplication::activeWindow(), {},
-                                                      request.folder.empty() ? QDir::currentPath() : Q(request.folder),
-                                                      Q("Tarnvik (" + request.filter + ")"), nullptr, No_options());
-    return path.isEmpty() ? std::nullopt : std::optional{U(path)};
+    QFileDialog dialog{QApplication::activeWindow()};
+    dialog.setFileMode(QFileDialog::ExistingFile);
+    Write_words(dialog, request);
+    dialog.setDirectory(request.folder.empty() ? QDir::currentPath() : Q(request.folder));
+    return Chosen(dialog);
 }
 
 std::optional<std::string> QtFileDialogs::Save(const FileRequest& request) {
     QFileDialog dialog{QApplication::activeWindow()};
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setFileMode(QFileDialog::AnyFile);
-    dialog.setNameFilter(Q("Tarnvik (" + request.filter + ")"));
+    Write_words(dialog, request);
     dialog.setDefaultSuffix(Q(request.default_extension));
     dialog.setOption(QFileDialog::DontConfirmOverwrite, (request.flags & prompt_on_overwrite) == 0);
     const QFileInfo start{Q(request.file_name)};
     dialog.setDirectory(start.absoluteDir());
     dialog.selectFile(start.fileName());
-    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
-        return std::nullopt;
-    }
-    return U(dialog.selectedFiles().constFirst());
+    return Chosen(dialog);
 }
 
 std::unique_ptr<PrintTarget> QtPrinterService::Show_printer(const PrinterRequest& request) {
@@ -126,6 +138,7 @@ std::unique_ptr<PrintTarget> QtPrinterService::Show_printer(const PrinterRequest
     printer->setDocName(Q(request.document));
     QPrintDialog dialog{printer.get(), QApplication::activeWindow()};
     dialog.setObjectName(QStringLiteral("PrinterDialog"));
+    dialog.setWindowTitle(Q(request.caption));
     dialog.setOption(QPrintDialog::PrintSelection, (request.flags & no_selection) == 0);
     // The report is always printed whole. The box for printing to a file, which the flags hide, is the entry "Print to
     // File (PDF)" of the list of printers here: it stays, as the printer of a machine without one.

@@ -439,7 +439,13 @@ TEST_F(Dialogs, the_links_of_about_open_and_a_failure_is_told) {
         opener.opens = false;
         QTest::mouseClick(dialog.windowHandle(), Qt::LeftButton, {}, lines[4]->geometry().center());
         ASSERT_EQ(boxes.messages.size(), 1U);
+        EXPECT_EQ(boxes.messages[0].text, "Can't open https://tarnvik.example");
         EXPECT_EQ(boxes.messages[0].style, 48);
+    });
+    Start("Nor");
+    Menu("mnuabout", [this](QWidget& dialog) {
+        Click(Find_in<QLabel>(dialog, "Lbl_web"));
+        EXPECT_EQ(boxes.messages.back().text, "Kan ikke åpne https://tarnvik.example");
     });
 }
 

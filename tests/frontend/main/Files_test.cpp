@@ -90,6 +90,28 @@ TEST_F(Files, save_as_asks_for_a_name_with_the_present_one) {
     EXPECT_EQ(Recent(), (Names{"1. " + Path("two.tnvik"), "2. " + Path("one.tnvik")}));
 }
 
+TEST_F(Files, the_file_dialogs_speak_the_language_of_the_program) {
+    Start("Eng");
+    Menu("mnuFileItem(1)");
+    Menu("mnuFileItem(3)");
+    Menu("mnusetup", [](QWidget& dialog) { Click(Find_in<QWidget>(dialog, "Cmd_nor")); });
+    Menu("mnuFileItem(1)");
+    Menu("mnuFileItem(3)");
+    ASSERT_EQ(dialogs.asked.size(), 4U);
+    const auto expect = [this](std::size_t at, const char* caption, const char* accept, const char* cancel,
+                               const char* files) {
+        const FileDialogWords& words = dialogs.asked[at].request.words;
+        EXPECT_EQ(words.caption, caption);
+        EXPECT_EQ(words.accept, accept);
+        EXPECT_EQ(words.cancel, cancel);
+        EXPECT_EQ(words.files, files);
+    };
+    expect(0, "Open project", "Open", "Cancel", "Tarnvik projects");
+    expect(1, "Save project as", "Save", "Cancel", "Tarnvik projects");
+    expect(2, "Åpne prosjekt", "Åpne", "Avbryt", "Tarnvik-prosjekter");
+    expect(3, "Lagre prosjekt som", "Lagre", "Avbryt", "Tarnvik-prosjekter");
+}
+
 TEST_F(Files, save_after_save_as_goes_to_the_same_file) {
     Start();
     Save_as(Path("one.tnvik"));

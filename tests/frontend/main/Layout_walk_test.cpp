@@ -16,6 +16,7 @@
 #include <sstream>
 
 #include "frontend/dialogs/Frm_tarn_vik_fak_klass.h"
+#include "frontend/main/ControlTable.h"
 #include "frontend/painting/SetText.h"
 #include "tests/support/Window.h"
 
@@ -27,7 +28,7 @@ namespace {
 constexpr double least_scale = 1.0;
 const std::map<std::string, double> narrowed{
     {"Lbl_lastvar_1", 0.97},     // "Lastvarighetsklasse ="
-    {"Lbl_lastvar_2", 0.87},     // "Instantaneous action", the longest of the classes
+    {"Lbl_lastvar_2", 0.84},     // "Instantaneous action", the longest of the classes, clear of its caption
     {"lbl_txt_avstand", 0.97},   // "distance", the second line
     {"Pic_av_bolter_dif", 0.97}, // the Norwegian note on small angles
     {"Lbl_sign", 0.91},          // "calculated as compression", beside the title of its frame
@@ -89,6 +90,21 @@ public:
         }
     }
 
+    // A value stands clear of its caption by a blank.
+    void Captions(QWidget& window) {
+        for (const CaptionedValue& row : Captioned_values()) {
+            auto& caption = Find_in<Label>(window, row.caption);
+            auto& value = Find_in<Label>(window, row.value);
+            const SetText set = Set_text(caption.text(), caption.font(), caption.size());
+            const double end = caption.x() + set.width * set.narrowing;
+            const double begin = value.x() + value.contentsRect().x();
+            if (caption.isVisible() && value.isVisible() && begin - end < 3.0 * value.logicalDpiX() / 96.0 - 0.5) {
+                Finding(value, "begins " + std::to_string(begin - end) + " pixels behind \"" +
+                                   caption.text().toStdString() + "\"");
+            }
+        }
+    }
+
     [[nodiscard]] const std::set<std::string>& Findings() const { return findings_; }
     // The narrowest that a control was drawn, and its text.
     [[nodiscard]] const std::map<std::string, std::pair<double, std::string>>& Narrowest() const { return narrowest_; }
@@ -136,7 +152,7 @@ private:
 
     void Control(QWidget& widget) {
         if (auto* label = dynamic_cast<Label*>(&widget)) {
-            Set(*label, label->text(), label->size());
+            Set(*label, label->text(), label->contentsRect().size());
         } else if (auto* plain = dynamic_cast<QLabel*>(&widget)) {
             Text(*plain, plain->text(), plain->contentsRect().size());
         } else if (auto* frame = dynamic_cast<Frame*>(&widget)) {
@@ -265,7 +281,10 @@ protected:
     }
     // The part of the window below the menu bar.
     QWidget& Ground() { return *window->centralWidget(); }
-    void Measure_window(Measure& measure) { measure.Window(Ground(), Ground().rect()); }
+    void Measure_window(Measure& measure) {
+        measure.Window(Ground(), Ground().rect());
+        measure.Captions(Ground());
+    }
 
     // All cases of a type and a variant, with every number of bolts and both arrangements.
     template <class Look> void Cases(Look look) {

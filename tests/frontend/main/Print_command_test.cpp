@@ -36,6 +36,16 @@ TEST_F(PrintCommand, prints_the_report_of_the_state_and_ends_the_job_twice) {
     EXPECT_TRUE(window->isVisible());
 }
 
+TEST_F(PrintCommand, the_dialog_has_its_caption_in_the_language) {
+    Start("Eng");
+    Menu("mnuprint");
+    Start("Nor");
+    Menu("mnuprint");
+    ASSERT_EQ(printer.asked.size(), 2U);
+    EXPECT_EQ(printer.asked[0].caption, "Print");
+    EXPECT_EQ(printer.asked[1].caption, "Skriv ut");
+}
+
 TEST_F(PrintCommand, no_pass_runs_for_it) {
     Start_and_watch();
     Menu("mnuprint");

@@ -271,6 +271,24 @@ TEST_F(FileDialog, open_gives_the_path_of_a_file_that_exists) {
     EXPECT_EQ(dialogs.Open({"*.tnvik", "*.tnvik", "", 4100}), (folder / "one.tnvik").string());
 }
 
+TEST_F(FileDialog, both_say_what_they_are_asked_to) {
+    const FileDialogWords words{"Åpne prosjekt", "Åpne", "Avbryt", "Let i:", "Filnavn:", "Filtype:", "Prosjekter"};
+    const auto look = [](QFileDialog& dialog) {
+        EXPECT_EQ(dialog.windowTitle().toStdString(), "Åpne prosjekt");
+        EXPECT_EQ(dialog.labelText(QFileDialog::Accept).toStdString(), "Åpne");
+        EXPECT_EQ(dialog.labelText(QFileDialog::Reject).toStdString(), "Avbryt");
+        EXPECT_EQ(dialog.labelText(QFileDialog::LookIn).toStdString(), "Let i:");
+        EXPECT_EQ(dialog.labelText(QFileDialog::FileName).toStdString(), "Filnavn:");
+        EXPECT_EQ(dialog.labelText(QFileDialog::FileType).toStdString(), "Filtype:");
+        EXPECT_EQ(dialog.nameFilters().constFirst().toStdString(), "Prosjekter (*.tnvik)");
+        dialog.reject();
+    };
+    In_file_dialog(look);
+    EXPECT_EQ(dialogs.Open({"*.tnvik", "*.tnvik", "", 4100, words}), std::nullopt);
+    In_file_dialog(look);
+    EXPECT_EQ(dialogs.Save({"*.tnvik", "New File", "tnvik", 6, words}), std::nullopt);
+}
+
 TEST_F(FileDialog, open_cancelled) {
     In_file_dialog([](QFileDialog& dialog) { dialog.reject(); });
     EXPECT_EQ(dialogs.Open({"*.tnvik", "*.tnvik", "", 4100}), std::nullopt);

@@ -7,7 +7,7 @@ set -euo pipefail
 cd "$(dirname "$0")"
 
 . tools/setup.sh
-install_missing "${build_packages[@]}"
+install_missing "${build_packages[@]}" "${test_packages[@]}"
 
 cmake --preset release
 cmake --build --preset release

@@ -150,7 +150,7 @@ std::optional<UndoCopy> Find_undo_copy(const SystemFile& former, const fs::path&
         if (!Is_there(path)) {
             continue;
         }
-        SystemFile file = Open_file(path, O_RDONLY | O_NOFOLLOW);
+        SystemFile file = Open_file(path, O_RDONLY | O_NOFOLLOW | O_NONBLOCK);
         if (!file) {
             Throw_error();
         }

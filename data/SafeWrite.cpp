@@ -1,6 +1,7 @@
 #include "data/SafeWrite.h"
 
 #include <cerrno>
+#include <chrono>
 #include <string>
 #include <system_error>
 #include <utility>
@@ -67,13 +68,12 @@ public:
         : target_(std::move(target)), content_(content), request_(request) {}
 
     SaveReport Run() {
-        constexpr int most_tries = 20;
-        for (int i = 0; i < most_tries; ++i) {
-            if (Try()) {
-                return std::move(report_);
+        while (!Try()) {
+            if (std::chrono::steady_clock::now() > deadline_) {
+                Throw_error(EBUSY);
             }
         }
-        Throw_error(EBUSY);
+        return std::move(report_);
     }
 
 private:
@@ -97,6 +97,7 @@ private:
     std::string_view content_;
     SaveRequest request_;
     SaveReport report_;
+    Deadline deadline_{End_of_patience()};
     SystemFile former_;   // locked; none for a new file
     struct stat seen_ {}; // what it was when its content was looked at
 };
@@ -133,7 +134,7 @@ bool Saving::Open_former() {
         }
         return false;
     }
-    Lock(former_);
+    Lock(former_, deadline_);
     seen_ = Status_of(former_);
     if (!As_seen()) {
         return false; // another saver has replaced it while this one waited

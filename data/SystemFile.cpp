@@ -1,7 +1,6 @@
 #include "data/SystemFile.h"
 
 #include <algorithm>
-#include <chrono>
 #include <cstdio>
 #include <system_error>
 #include <thread>
@@ -63,7 +62,7 @@ void Throw_error(int number) {
 }
 
 SystemFile Open_file(const fs::path& path, int flags, mode_t mode) {
-    return SystemFile{Repeat([&] { return open(path.c_str(), flags | O_CLOEXEC | O_NONBLOCK | O_NOCTTY, mode); })};
+    return SystemFile{Repeat([&] { return open(path.c_str(), flags | O_CLOEXEC | O_NOCTTY, mode); })};
 }
 
 struct stat Status_of(const SystemFile& file) {
@@ -173,15 +172,16 @@ LockResult Try_lock(const SystemFile& file) {
     return errno == EWOULDBLOCK ? LockResult::busy : LockResult::none_here;
 }
 
-void Lock(const SystemFile& file) {
-    using namespace std::chrono_literals;
-    constexpr auto longest = 5s;
-    const auto end = std::chrono::steady_clock::now() + longest;
+Deadline End_of_patience() {
+    return std::chrono::steady_clock::now() + std::chrono::seconds{5};
+}
+
+void Lock(const SystemFile& file, Deadline deadline) {
     while (Try_lock(file) == LockResult::busy) {
-        if (std::chrono::steady_clock::now() > end) {
+        if (std::chrono::steady_clock::now() > deadline) {
             Throw_error(EAGAIN);
         }
-        std::this_thread::sleep_for(5ms);
+        std::this_thread::sleep_for(std::chrono::milliseconds{1});
     }
 }
 

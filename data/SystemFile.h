@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cerrno>
+#include <chrono>
 #include <cstdint>
 #include <filesystem>
 #include <string_view>
@@ -75,8 +76,10 @@ enum class LockResult : std::uint8_t {
 };
 LockResult Try_lock(const SystemFile& file);
 
-// Waits for the lock, some seconds at most.
-void Lock(const SystemFile& file);
+// Waits for the lock, but not for ever.
+using Deadline = std::chrono::steady_clock::time_point;
+Deadline End_of_patience(); // of one that begins to wait now
+void Lock(const SystemFile& file, Deadline deadline = End_of_patience());
 
 // Gives a file a further name, unless it is taken: then false. `from` is gone afterwards.
 bool Rename_to_free(const std::filesystem::path& from, const std::filesystem::path& to);

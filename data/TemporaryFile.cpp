@@ -47,7 +47,7 @@ void Remove_strays(const fs::path& target) {
         if (owner.owner == Owner::nobody) {
             continue;
         }
-        const SystemFile file = Open_file(entry->path(), O_RDWR | O_NOFOLLOW);
+        const SystemFile file = Open_file(entry->path(), O_RDWR | O_NOFOLLOW | O_NONBLOCK);
         if (file && Is_stray(file, owner)) {
             unlink(entry->path().c_str());
         }

@@ -219,6 +219,20 @@ TEST_F(SafeWriteRights, in_a_folder_that_takes_no_file_the_copy_goes_to_the_stat
     Expect_rights(state_ / "state/tarnvik", bob, bob_alone, 0700);
 }
 
+TEST_F(SafeWriteRights, a_folder_that_may_be_written_but_not_read_takes_a_save) {
+    const fs::path file = folder_ / "a";
+    const auto save = [&] { return Save(file, "new"); };
+    Write_file(file, "former content");
+    if (May_change_user()) {
+        Give(file, bob, bob_alone, 0600);
+    }
+    ASSERT_EQ(chmod(folder_.Path().c_str(), 0333), 0);
+    EXPECT_EQ(May_change_user() ? As_user(bob_at_work, save) : save(), 0);
+    ASSERT_EQ(chmod(folder_.Path().c_str(), 0777), 0);
+    EXPECT_EQ(Read_file(file), "newmer content");
+    EXPECT_EQ(folder_.Files(), 1U);
+}
+
 TEST_F(SafeWriteRights, without_a_place_for_a_copy_the_save_is_refused) {
     if (!May_change_user()) {
         GTEST_SKIP() << "not the superuser";

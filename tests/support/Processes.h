@@ -20,7 +20,11 @@ namespace tarnvik::test {
 template <class Action> int In_a_child(Action action) {
     const pid_t child = fork();
     if (child == 0) {
-        _exit(action());
+        try {
+            _exit(action());
+        } catch (...) {
+            _exit(253);
+        }
     }
     int status = 0;
     waitpid(child, &status, 0);

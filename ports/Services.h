@@ -45,12 +45,12 @@ struct FileDialogWords {
 
 // What a file dialog is asked for.
 struct FileRequest {
-    std::string folder;    // to start in; empty: the current one
     std::string filter;    // "*.tnvik"
     std::string file_name; // what the dialog starts with
     std::string default_extension;
     int flags{}; // joined by |
     FileDialogWords words{};
+    std::string folder{}; // to start in; empty: the current one
 };
 
 class FileDialogs {

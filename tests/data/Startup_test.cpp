@@ -112,7 +112,7 @@ TEST_F(Startup, a_missing_table_is_named_with_its_folder) {
     fs::remove(folder / profile_file);
     EXPECT_EQ(Failure(), "TarnvikProfile.csv in " + folder.Path().string() + ": file not found");
     fs::create_directory(folder / profile_file);
-    EXPECT_EQ(Failure(), "TarnvikProfile.csv in " + folder.Path().string() + ": path or file cannot be accessed");
+    EXPECT_EQ(Failure(), "TarnvikProfile.csv in " + folder.Path().string() + ": not a regular file");
 }
 
 TEST_F(Startup, more_materials_than_the_table_holds_are_fatal) {

@@ -13,7 +13,6 @@
 #include <utility>
 
 #include "calc/RuntimeFault.h"
-#include "data/SetupFile.h"
 #include "frontend/controls/Descriptions.h"
 #include "frontend/dialogs/ExplanationForm.h"
 #include "frontend/dialogs/Frm_tarn_vik_fak_klass.h"

@@ -82,6 +82,12 @@ void QtBoxService::Show_box(const Pending& pending) {
     if (parent == nullptr) {
         parent = QApplication::activeWindow();
     }
+    for (QWidget* window : QApplication::topLevelWidgets()) { // at the start none is active yet
+        if (parent == nullptr && window->isVisible() && window->isWindow() &&
+            !window->windowFlags().testFlag(Qt::ToolTip)) {
+            parent = window;
+        }
+    }
     auto* box = new QMessageBox{pending.style == box_exclamation ? QMessageBox::Warning : QMessageBox::NoIcon,
                                 QStringLiteral(" "), Q(pending.text), QMessageBox::NoButton, parent};
     box->setObjectName(QStringLiteral("MessageBox"));

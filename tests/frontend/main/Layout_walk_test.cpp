@@ -138,6 +138,14 @@ private:
     // A text that the toolkit draws: it does not narrow.
     void Text(const QWidget& widget, const QString& text, const QSizeF& room) {
         const QFontMetricsF metrics{widget.font()};
+        const QStringList lines = text.split(QLatin1Char('\n'));
+        const double height = metrics.ascent() + metrics.lineSpacing() * static_cast<double>(lines.size() - 1);
+        for (const QString& line : lines) {
+            Line(widget, line, {room.width(), room.height() - height + metrics.ascent()});
+        }
+    }
+    void Line(const QWidget& widget, const QString& text, const QSizeF& room) {
+        const QFontMetricsF metrics{widget.font()};
         QString shown = text;
         while (shown.endsWith(QLatin1Char(' '))) {
             shown.chop(1);

@@ -6,14 +6,15 @@
 #include <QGroupBox>
 #include <QKeySequence>
 #include <QShortcut>
+#include <QWindow>
 
-#include <cmath>
 #include <exception>
 #include <system_error>
 #include <utility>
 
 #include "calc/RuntimeFault.h"
 #include "frontend/controls/Descriptions.h"
+#include "frontend/controls/Scrolling.h"
 #include "frontend/dialogs/ExplanationForm.h"
 #include "frontend/dialogs/Frm_tarn_vik_fak_klass.h"
 #include "frontend/dialogs/frmAbout.h"
@@ -53,7 +54,7 @@ frmMain::~frmMain() = default;
 QMainWindow& frmMain::Prepared() {
     setObjectName(QStringLiteral("frmMain"));
     setWindowTitle(QStringLiteral("Tarnvik"));
-    resize(Scaled(1024.0, logicalDpiX()), static_cast<int>(std::lround(0.965 * 768.0 * logicalDpiY() / 96.0)));
+    resize(Shown_in(Room_on_screen(*this), {{}, Laid_out_size(*this)}).size());
     setContextMenuPolicy(Qt::NoContextMenu);
     return *this;
 }
@@ -71,6 +72,7 @@ void frmMain::Load() {
     Set_caption();
     Write_language(); // before the first sight of the window: no caption turns before the user's eyes
     show();
+    connect(windowHandle(), &QWindow::activeChanged, this, &frmMain::Stay_on_screen, Qt::SingleShotConnection);
     const PassResult first = session_.First_pass();
     if (folders_.data_is_new) {
         services_.boxes.Show((Is_english(s_)
@@ -88,6 +90,14 @@ void frmMain::Load() {
     session_.Note_saved(boxes_.Names());
     recovery_.Note();
     recovery_.Offer([this](const std::string& path, const std::string& project) { projects_.Recover(path, project); });
+}
+
+// Once the window manager has given the window its frame.
+void frmMain::Stay_on_screen() {
+    const QRect room = Room_on_screen(*this);
+    if (size().boundedTo(room.size()) != size()) {
+        setGeometry(Shown_in(room, {geometry().topLeft(), Laid_out_size(*this)}));
+    }
 }
 
 void frmMain::Open(const std::string& path) {

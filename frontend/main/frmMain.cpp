@@ -23,6 +23,7 @@
 #include "frontend/main/Languages.h"
 #include "frontend/main/Placement.h"
 #include "frontend/painting/Texts.h"
+#include "report/PrintReport.h"
 #include "session/Start_finding.h"
 
 namespace tarnvik {
@@ -249,7 +250,7 @@ void frmMain::Open_manual() {
 void frmMain::Print_report() {
     try {
         const auto target = services_.printer.Show_printer(
-            {no_selection | hide_print_to_file, s_.Prosjekt, Is_english(s_) ? "Print" : "Skriv ut"});
+            {no_selection | hide_print_to_file, Report_title(s_), Is_english(s_) ? "Print" : "Skriv ut"});
         if (target != nullptr) {
             session_.Print(*target, services_.clock.Now());
             target->EndDoc();

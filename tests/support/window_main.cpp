@@ -85,6 +85,8 @@ int main(int argc, char** argv) {
     for (const char* name : {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME", "XDG_RUNTIME_DIR"}) {
         qputenv(name, path);
     }
+    qputenv("CUPS_SERVER",
+            QFile::encodeName(home.filePath(QStringLiteral("cups.sock")))); // none of the machine's printers
     if (!Use_screen(home)) {
         return 1;
     }

@@ -1,4 +1,4 @@
-// The printer dialog as the toolkit gives it, and the clock.
+// The printer dialog as the toolkit gives it.
 #include <QComboBox>
 #include <QDialog>
 #include <QLineEdit>

@@ -73,6 +73,7 @@ void frmMain::Load() {
     Set_caption();
     Write_language(); // before the first sight of the window: no caption turns before the user's eyes
     show();
+    connect(windowHandle(), &QWindow::yChanged, this, &frmMain::Stay_on_screen, Qt::SingleShotConnection);
     connect(windowHandle(), &QWindow::activeChanged, this, &frmMain::Stay_on_screen, Qt::SingleShotConnection);
     const PassResult first = session_.First_pass();
     if (folders_.data_is_new) {
@@ -93,7 +94,8 @@ void frmMain::Load() {
     recovery_.Offer([this](const std::string& path, const std::string& project) { projects_.Recover(path, project); });
 }
 
-// Once the window manager has given the window its frame.
+// Once the window manager has given the window its frame, and again with the first focus, which a box may have before
+// it.
 void frmMain::Stay_on_screen() {
     const QRect room = Room_on_screen(*this);
     if (size().boundedTo(room.size()) != size()) {

@@ -13,6 +13,7 @@
 #include "check/Status.h"
 #include "check/Summary.h"
 #include "data/SetupFile.h"
+#include "report/PrintReport.h"
 #include "report/Recorder.h"
 
 namespace tarnvik {
@@ -119,7 +120,7 @@ int Tool::Write_report(const PassResult& result) {
         return exit_stopped;
     }
     try {
-        rendering_->Write_report(*options_.report, s_->Prosjekt,
+        rendering_->Write_report(*options_.report, Report_title(*s_),
                                  [this](PrintTarget& target, const Moment& now) { session_.Print(target, now); });
     } catch (const RuntimeFault& fault) {
         err_ << "tarnvik-check: " << *options_.report << ": cannot be written: " << fault.description << "\n";

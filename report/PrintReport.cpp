@@ -24,6 +24,10 @@ void Draw_line(PrintTarget& target, double x1, double y1, double x2, double y2) 
     target.Line(static_cast<float>(x1), static_cast<float>(y1), static_cast<float>(x2), static_cast<float>(y2));
 }
 
+std::string Report_title(const ConnectionState& s) {
+    return s.Prosjekt + (s.Prosjekt.empty() || s.Id.empty() ? "" : ", ") + s.Id;
+}
+
 void PrintReport(PrintTarget& target, ConnectionState& s, const ReportPictures& pictures, const Moment& now,
                  SpacingTexts& texts) {
     // On A4 a unit is a millimetre.

@@ -38,6 +38,9 @@ struct SpacingTexts {
     std::array<std::string, count> bolts, connectors;
 };
 
+// The report's title as a document: project and identification.
+std::string Report_title(const ConnectionState& s);
+
 // Draws the whole report and ends the document. Cuts Lastvar_txt to its first 9 characters, until the next pass sets it
 // again.
 // Errors: subscript out of range (9) where Mat_index has no row, and what the target throws.

@@ -36,6 +36,18 @@ void Tell_chosen(QWidget& button) {
     QAccessible::updateAccessibility(&event);
 }
 
+void Draw_focus(QPainter& painter, const QWidget& widget, const QRect& rect) {
+    QStyleOptionFocusRect focus;
+    focus.initFrom(&widget);
+    focus.rect = rect;
+    widget.style()->drawPrimitive(QStyle::PE_FrameFocusRect, &focus, &painter, &widget);
+}
+
+// What a text begins with.
+QString Blanks(const PositionedText& row) {
+    return {static_cast<qsizetype>(std::min(row.text.find_first_not_of(' '), row.text.size())), QLatin1Char(' ')};
+}
+
 } // namespace
 
 void PictureButton::Set_picture(const std::string& key) {
@@ -70,10 +82,7 @@ void PictureButton::paintEvent(QPaintEvent* /*event*/) {
         Draw_chosen(painter, *this);
     }
     if (hasFocus()) {
-        QStyleOptionFocusRect focus;
-        focus.initFrom(this);
-        focus.rect = rect().adjusted(3, 3, -3, -3);
-        style()->drawPrimitive(QStyle::PE_FrameFocusRect, &focus, &painter, this);
+        Draw_focus(painter, *this, rect().adjusted(3, 3, -3, -3));
     }
 }
 
@@ -113,6 +122,13 @@ void PictureArea::paintEvent(QPaintEvent* /*event*/) {
     painter.drawRect(QRectF{rect()}.adjusted(0.5, 0.5, -0.5, -0.5));
 }
 
+void FocusArea::paintEvent(QPaintEvent* /*event*/) {
+    if (hasFocus()) {
+        QPainter painter{this};
+        Draw_focus(painter, *this, rect());
+    }
+}
+
 void TableArea::Set_rows(std::span<const PositionedText> rows) {
     const bool told = QAccessible::isActive();
     const QStringList former = told ? Lines() : QStringList{};
@@ -146,11 +162,12 @@ std::vector<TableArea::Placed> TableArea::Place_rows() const {
     placed.reserve(rows_.size());
     for (const PositionedText& row : rows_) {
         const QFontMetricsF& metrics = row.bold ? bold : plain;
-        // The next text on the same line ends the room.
+        // The words of the next text on the same line end the room; that of a sum row stands a little off its line.
         double end = width() - 1.0;
         for (const PositionedText& other : rows_) {
             if (other.x > row.x && std::fabs(other.y - row.y) < off_row) {
-                end = std::min(end, static_cast<double>(other.x) * x_unit);
+                const QFontMetricsF& beside = other.bold ? bold : plain;
+                end = std::min(end, static_cast<double>(other.x) * x_unit + beside.horizontalAdvance(Blanks(other)));
             }
         }
         Placed place{};

@@ -73,6 +73,17 @@ private:
     bool framed_{true};
 };
 
+// An area that holds others and takes the focus itself, which a frame shows.
+class FocusArea : public QWidget {
+    Q_OBJECT
+
+public:
+    using QWidget::QWidget;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+};
+
 // An area of positioned texts in a scale of 100 by 100 with the origin at the lower left.
 class TableArea : public QWidget {
     Q_OBJECT

@@ -10,6 +10,7 @@
 #include "frontend/controls/Controls.h"
 #include "frontend/controls/Descriptions.h"
 #include "frontend/controls/PaintedArea.h"
+#include "frontend/controls/Scrolling.h"
 #include "frontend/painting/Texts.h"
 #include "session/Session.h"
 
@@ -30,16 +31,16 @@ constexpr double below_text = 11.0; // pixels at 96 dots per inch
 } // namespace
 
 ExplanationForm::ExplanationForm(QWidget& window, QWidget& parent, const Session& session, std::string_view name)
-    : QDialog(&parent), window_(window), session_(session), explanation_(Named(name)) {
+    : ScrolledDialog(parent), window_(window), session_(session), explanation_(Named(name)) {
     setObjectName(Q(explanation_.name));
-    QWidget* holder = this;
+    QWidget* holder = &Ground();
     if (!explanation_.frame.empty()) {
-        holder = new Frame{this};
+        holder = new Frame{holder};
         holder->setObjectName(Q(explanation_.frame));
     }
     auto* area = new PaintedArea{holder};
     area->setObjectName(Q(explanation_.text_control));
-    auto* ok = new QPushButton{QStringLiteral("OK"), this};
+    auto* ok = new QPushButton{QStringLiteral("OK"), &Ground()};
     ok->setObjectName(QStringLiteral("Cmd_ok"));
     ok->setDefault(true);
     connect(ok, &QAbstractButton::clicked, this, &QDialog::accept);
@@ -47,14 +48,15 @@ ExplanationForm::ExplanationForm(QWidget& window, QWidget& parent, const Session
 
 void ExplanationForm::Lay_out() {
     const double dpi = logicalDpiX();
-    setFixedSize(static_cast<int>(std::lround(explanation_.width * window_.width())),
-                 static_cast<int>(std::lround(explanation_.height * window_.height())));
+    const QSize whole = Laid_out_size(window_);
+    const int w = static_cast<int>(std::lround(explanation_.width * whole.width()));
+    const int h = static_cast<int>(std::lround(explanation_.height * whole.height()));
     // Inside to inside: the frame that the window manager will draw is not known yet, and it is the same for both.
-    setGeometry(window_.geometry().left() + (window_.width() - width()) / 2,
-                window_.geometry().top() + (window_.height() - height()) / 2, width(), height());
+    const QPoint corner{window_.geometry().left() + (window_.width() - w) / 2,
+                        window_.geometry().top() + (window_.height() - h) / 2};
+    Place({corner, QSize{w, h}}, window_);
 
-    const QRect outer =
-        QRectF{0.015 * width(), 0.01 * height(), 0.96 * width(), explanation_.frame_height * height()}.toRect();
+    const QRect outer = QRectF{0.015 * w, 0.01 * h, 0.96 * w, explanation_.frame_height * h}.toRect();
     auto* area = findChild<PaintedArea*>(Q(explanation_.text_control));
     if (auto* frame = qobject_cast<Frame*>(area->parentWidget())) {
         frame->setGeometry(outer);
@@ -64,8 +66,8 @@ void ExplanationForm::Lay_out() {
         area->setGeometry(outer);
     }
     findChild<QPushButton*>(QStringLiteral("Cmd_ok"))
-        ->setGeometry((width() - Scaled(72, dpi)) / 2, outer.y() + outer.height() + Scaled(below_text, dpi),
-                      Scaled(72, dpi), Scaled(26, dpi));
+        ->setGeometry((w - Scaled(72, dpi)) / 2, outer.y() + outer.height() + Scaled(below_text, dpi), Scaled(72, dpi),
+                      Scaled(26, dpi));
 }
 
 void ExplanationForm::showEvent(QShowEvent* event) {

@@ -8,6 +8,7 @@
 
 #include "frontend/controls/Controls.h"
 #include "frontend/controls/Descriptions.h"
+#include "frontend/controls/Scrolling.h"
 #include "frontend/dialogs/ExplanationForm.h"
 #include "frontend/painting/Texts.h"
 #include "session/Session.h"
@@ -94,12 +95,14 @@ void Frm_tarn_vik_fak_klass::Describe_controls(bool english) const {
 
 void Frm_tarn_vik_fak_klass::Lay_out() {
     const double dpi = logicalDpiX();
-    const double w = 0.34 * window_.width();
-    const double h = 0.32 * window_.height();
+    const QSize whole = Laid_out_size(window_);
+    const double w = 0.34 * whole.width();
+    const double h = 0.32 * whole.height();
     setFixedSize(static_cast<int>(std::lround(w)), static_cast<int>(std::lround(h)));
     // Inside to inside: the frame that the window manager will draw is not known yet, and it is the same for both.
-    setGeometry(window_.geometry().left() + (window_.width() - width()) / 2,
-                window_.geometry().top() + static_cast<int>(std::lround(0.01 * window_.height())), width(), height());
+    const QPoint corner{window_.geometry().left() + (window_.width() - width()) / 2,
+                        window_.geometry().top() + static_cast<int>(std::lround(0.01 * whole.height()))};
+    setGeometry(Shown_in(Room_on_screen(window_), {corner, size()}));
 
     const auto place = [](QWidget* widget, double left, double top, double wide, double high) {
         widget->setGeometry(QRectF{left, top, wide, high}.toRect());

@@ -20,7 +20,7 @@ class Frm_tarn_vik_fak_klass : public QDialog {
     Q_OBJECT
 
 public:
-    // `window` is the main window, which gives the size and the place.
+    // `window` is the main window, whose laid-out size gives the size, and which gives the place.
     Frm_tarn_vik_fak_klass(QWidget& window, Session& session);
 
     // Selects the options of the two classes; a class without an option selects none.

@@ -14,6 +14,7 @@
 #include "frontend/controls/Controls.h"
 #include "frontend/controls/Descriptions.h"
 #include "frontend/controls/PaintedArea.h"
+#include "frontend/controls/Scrolling.h"
 #include "frontend/painting/Texts.h"
 #include "session/Session.h"
 
@@ -26,9 +27,9 @@ constexpr double below_frame = 165.0 / 15.0; // twips to pixels at 96 dots per i
 } // namespace
 
 frmDetailed::frmDetailed(QWidget& window, const Session& session)
-    : QDialog(&window), window_(window), session_(session) {
+    : ScrolledDialog(window), window_(window), session_(session) {
     setObjectName(QStringLiteral("frmDetailed"));
-    auto* frame = new Frame{this};
+    auto* frame = new Frame{&Ground()};
     frame->setObjectName(QStringLiteral("Fra_detailed"));
     auto* area = new PaintedArea{frame};
     area->setObjectName(QStringLiteral("Pic_detailed"));
@@ -41,12 +42,12 @@ frmDetailed::frmDetailed(QWidget& window, const Session& session)
     }
     auto* governs = new QLabel{area};
     governs->setObjectName(QStringLiteral("Lbl_governs"));
-    auto* current = new Label{this};
+    auto* current = new Label{&Ground()};
     current->setObjectName(QStringLiteral("Lbl_current"));
     QPalette red = current->palette();
     red.setColor(QPalette::WindowText, To_colour(colour_fails));
     current->setPalette(red);
-    auto* ok = new QPushButton{QStringLiteral("OK"), this};
+    auto* ok = new QPushButton{QStringLiteral("OK"), &Ground()};
     ok->setObjectName(QStringLiteral("Cmd_ok"));
     ok->setDefault(true);
     connect(ok, &QAbstractButton::clicked, this, &QDialog::accept);
@@ -54,14 +55,15 @@ frmDetailed::frmDetailed(QWidget& window, const Session& session)
 
 void frmDetailed::Lay_out() {
     const double dpi = logicalDpiX();
-    setFixedSize(static_cast<int>(std::lround(0.65 * window_.width())), window_.height());
+    const QSize whole = Laid_out_size(window_);
+    const QSize size{static_cast<int>(std::lround(0.65 * whole.width())), whole.height()};
     // Inside to inside: the frame that the window manager will draw is not known yet, and it is the same for both.
-    setGeometry(window_.geometry().left() + (window_.width() - width()) / 2, window_.geometry().top(), width(),
-                height());
+    const QPoint corner{window_.geometry().left() + (window_.width() - size.width()) / 2, window_.geometry().top()};
+    Place({corner, size}, window_);
 
     auto* frame = findChild<Frame*>(QStringLiteral("Fra_detailed"));
-    const double w = width();
-    const double h = height();
+    const double w = size.width();
+    const double h = size.height();
     frame->setGeometry(QRectF{0.015 * w, 0.005 * h, 0.96 * w, 0.89 * h}.toRect());
     const double frame_w = frame->width();
     const double frame_h = frame->height();
@@ -73,7 +75,7 @@ void frmDetailed::Lay_out() {
                                  place.height * area->height()}
                               .toRect());
     }
-    const QRect ok{(width() - Scaled(72, dpi)) / 2, frame->y() + frame->height() + Scaled(below_frame, dpi),
+    const QRect ok{(size.width() - Scaled(72, dpi)) / 2, frame->y() + frame->height() + Scaled(below_frame, dpi),
                    Scaled(72, dpi), Scaled(26, dpi)};
     findChild<QPushButton*>(QStringLiteral("Cmd_ok"))->setGeometry(ok);
     findChild<Label*>(QStringLiteral("Lbl_current"))

@@ -1,7 +1,7 @@
 // The step-by-step calculation of the connection, with its equations. It shows the values of the last pass.
 #pragma once
 
-#include <QDialog>
+#include "frontend/dialogs/ScrolledDialog.h"
 
 class QShowEvent;
 
@@ -9,11 +9,11 @@ namespace tarnvik {
 
 class Session;
 
-class frmDetailed : public QDialog {
+class frmDetailed : public ScrolledDialog {
     Q_OBJECT
 
 public:
-    // `window` is the main window: the calculations stand in its middle, as high as it is.
+    // `window` is the main window: the calculations stand in its middle, as high as it is laid out for.
     frmDetailed(QWidget& window, const Session& session);
 
 protected:

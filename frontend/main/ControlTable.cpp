@@ -50,7 +50,7 @@ constexpr std::array control_rows{
     ControlRow{"Fra_b2_h2",               frame,          "Fra_standard",           "",            0, 0, 0, 0},
     ControlRow{"cboProf2",                list,           "Fra_b2_h2",              "",            0, 0, 87, list_height},
     ControlRow{"Fra_valgfri",             frame,          "Fra_dim_main",           "Valgfri (mm)", 0, 0, 248, 0},
-    ControlRow{"Pic_Dim",                 plain,          "Fra_valgfri",            "",            0, 0, 0, 0},
+    ControlRow{"Pic_Dim",                 focus_area,     "Fra_valgfri",            "",            0, 0, 0, 0},
     ControlRow{"Fra_dim_1",               frame,          "Pic_Dim",                "",            0, 0, 0, 0},
     ControlRow{"Pic_dim_1",               plain,          "Fra_dim_1",              "",            0, 0, 0, 0},
     ControlRow{"Lbl_b1",                  label,          "Pic_dim_1",              "b =",         0, 0, 26, 18},

@@ -21,6 +21,7 @@ enum class Kind : std::uint8_t {
     picture_button,
     picture,
     table,
+    focus_area,
     plain
 };
 

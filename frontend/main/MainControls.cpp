@@ -11,9 +11,11 @@
 #include <algorithm>
 #include <cmath>
 #include <stdexcept>
+#include <utility>
 
 #include "frontend/controls/Areas.h"
 #include "frontend/controls/Controls.h"
+#include "frontend/controls/Scrolling.h"
 #include "frontend/main/ControlTable.h"
 #include "frontend/painting/SetText.h"
 #include "frontend/painting/Texts.h"
@@ -38,6 +40,12 @@ template <class Button> Button* New_button(const QString& caption, QWidget* pare
 PictureButton* New_picture_button(const QString& caption, QWidget* parent) {
     auto* made = new PictureButton{parent};
     made->setText(caption);
+    made->setFocusPolicy(Qt::StrongFocus);
+    return made;
+}
+
+QWidget* New_focus_area(QWidget* parent) {
+    auto* made = new FocusArea{parent};
     made->setFocusPolicy(Qt::StrongFocus);
     return made;
 }
@@ -71,6 +79,8 @@ QWidget* New_control(const ControlRow& row, QWidget* parent) {
         return new PictureArea{parent};
     case Kind::table:
         return new TableArea{parent};
+    case Kind::focus_area:
+        return New_focus_area(parent);
     case Kind::plain:
         break;
     }
@@ -96,9 +106,12 @@ void MainControls::Missing(std::string_view name) {
 }
 
 void MainControls::Build_controls(QMainWindow& window) {
-    auto* ground = new QWidget{&window};
+    auto* scrolled = new ScrolledGround{&window};
+    scrolled->setObjectName(QStringLiteral("scrolled"));
+    scrolled->Follow_focus();
+    window.setCentralWidget(scrolled);
+    QWidget* ground = scrolled->widget();
     ground->setObjectName(QStringLiteral("ground"));
-    window.setCentralWidget(ground);
     controls_.emplace("frmMain", &window);
     for (const ControlRow& row : Control_rows()) {
         QWidget* parent = *row.parent == '\0' ? ground : &Find<QWidget>(row.parent);
@@ -106,8 +119,6 @@ void MainControls::Build_controls(QMainWindow& window) {
         control->setObjectName(Q(row.name));
         controls_.emplace(row.name, control);
     }
-    // The last box of the free entry hands the focus on to the area that holds them.
-    Find<QWidget>("Pic_Dim").setFocusPolicy(Qt::ClickFocus);
     Find<QWidget>("Cmd_detail").hide();
 }
 
@@ -167,15 +178,23 @@ void MainControls::Build_menus(QMainWindow& window) {
 
 void MainControls::Set_tab_order() {
     QWidget* last = nullptr;
+    const auto add = [&last](QWidget* control) {
+        if (last != nullptr) {
+            QWidget::setTabOrder(last, control);
+        }
+        last = control;
+    };
+    QWidget* area = nullptr; // comes after the boxes that it holds, as for the Enter key
     for (const ControlRow& row : Control_rows()) {
         auto& control = Find<QWidget>(row.name);
-        if (control.focusPolicy() == Qt::NoFocus || row.kind == Kind::plain) {
-            continue;
+        if (area != nullptr && !area->isAncestorOf(&control)) {
+            add(std::exchange(area, nullptr));
         }
-        if (last != nullptr) {
-            QWidget::setTabOrder(last, &control);
+        if (row.kind == Kind::focus_area) {
+            area = &control;
+        } else if (control.focusPolicy() != Qt::NoFocus) {
+            add(&control);
         }
-        last = &control;
     }
 }
 

@@ -10,6 +10,7 @@
 
 #include "frontend/controls/Areas.h"
 #include "frontend/controls/Controls.h"
+#include "frontend/controls/Scrolling.h"
 #include "frontend/main/ControlTable.h"
 #include "frontend/main/Languages.h"
 #include "frontend/main/Layout.h"
@@ -108,16 +109,25 @@ void Cover_sketches(const QMainWindow& window, const MainControls& controls) {
     }
 }
 
+// As large as the frames need; below that the window scrolls.
+void Set_least_size(const MainControls& controls) {
+    QWidget& ground = *controls.Find<QWidget>("fra_input").parentWidget();
+    const QRect frames = ground.childrenRect();
+    ground.setMinimumSize(frames.right() + 1 + frames.left(), frames.bottom() + 1);
+}
+
 } // namespace
 
 void WritefrmInput1(QMainWindow& window, const MainControls& controls) {
     Boxes boxes = Built_sizes();
     Widen_labels(window, boxes);
-    const Box inside{0.0, 0.0, window.width() * twips_per_inch / window.logicalDpiX(),
-                     window.height() * twips_per_inch / window.logicalDpiY()};
+    const QSize size = Laid_out_size(window);
+    const Box inside{0.0, 0.0, size.width() * twips_per_inch / window.logicalDpiX(),
+                     size.height() * twips_per_inch / window.logicalDpiY()};
     Apply_layout(boxes, inside, Least_height, &controls);
     Place_marks(boxes, window.font(), window.logicalDpiX());
     Set_geometry(window, controls, boxes);
+    Set_least_size(controls);
     Cover_sketches(window, controls);
 }
 

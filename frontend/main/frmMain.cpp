@@ -6,14 +6,15 @@
 #include <QGroupBox>
 #include <QKeySequence>
 #include <QShortcut>
+#include <QWindow>
 
-#include <cmath>
 #include <exception>
 #include <system_error>
 #include <utility>
 
 #include "calc/RuntimeFault.h"
 #include "frontend/controls/Descriptions.h"
+#include "frontend/controls/Scrolling.h"
 #include "frontend/dialogs/ExplanationForm.h"
 #include "frontend/dialogs/Frm_tarn_vik_fak_klass.h"
 #include "frontend/dialogs/frmAbout.h"
@@ -22,6 +23,7 @@
 #include "frontend/main/Languages.h"
 #include "frontend/main/Placement.h"
 #include "frontend/painting/Texts.h"
+#include "report/PrintReport.h"
 #include "session/Start_finding.h"
 
 namespace tarnvik {
@@ -53,7 +55,7 @@ frmMain::~frmMain() = default;
 QMainWindow& frmMain::Prepared() {
     setObjectName(QStringLiteral("frmMain"));
     setWindowTitle(QStringLiteral("Tarnvik"));
-    resize(Scaled(1024.0, logicalDpiX()), static_cast<int>(std::lround(0.965 * 768.0 * logicalDpiY() / 96.0)));
+    resize(Shown_in(Room_on_screen(*this), {{}, Laid_out_size(*this)}).size());
     setContextMenuPolicy(Qt::NoContextMenu);
     return *this;
 }
@@ -71,6 +73,8 @@ void frmMain::Load() {
     Set_caption();
     Write_language(); // before the first sight of the window: no caption turns before the user's eyes
     show();
+    connect(windowHandle(), &QWindow::yChanged, this, &frmMain::Stay_on_screen, Qt::SingleShotConnection);
+    connect(windowHandle(), &QWindow::activeChanged, this, &frmMain::Stay_on_screen, Qt::SingleShotConnection);
     const PassResult first = session_.First_pass();
     if (folders_.data_is_new) {
         services_.boxes.Show((Is_english(s_)
@@ -88,6 +92,15 @@ void frmMain::Load() {
     session_.Note_saved(boxes_.Names());
     recovery_.Note();
     recovery_.Offer([this](const std::string& path, const std::string& project) { projects_.Recover(path, project); });
+}
+
+// Once the window manager has given the window its frame, and again with the first focus, which a box may have before
+// it.
+void frmMain::Stay_on_screen() {
+    const QRect room = Room_on_screen(*this);
+    if (size().boundedTo(room.size()) != size()) {
+        setGeometry(Shown_in(room, {geometry().topLeft(), Laid_out_size(*this)}));
+    }
 }
 
 void frmMain::Open(const std::string& path) {
@@ -239,7 +252,7 @@ void frmMain::Open_manual() {
 void frmMain::Print_report() {
     try {
         const auto target = services_.printer.Show_printer(
-            {no_selection | hide_print_to_file, s_.Prosjekt, Is_english(s_) ? "Print" : "Skriv ut"});
+            {no_selection | hide_print_to_file, Report_title(s_), Is_english(s_) ? "Print" : "Skriv ut"});
         if (target != nullptr) {
             session_.Print(*target, services_.clock.Now());
             target->EndDoc();

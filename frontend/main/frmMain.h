@@ -72,6 +72,7 @@ private:
     void Connect_action(const char* name, std::function<void()> run);
     void Connect_explanation(const char* button, const char* name);
     void StartValue_controls();
+    void Stay_on_screen();
     void Show_project();
     void Set_caption();
     void Set_caption_of(std::string_view control, std::string_view caption);

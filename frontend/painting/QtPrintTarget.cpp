@@ -2,6 +2,7 @@
 
 #include <QBuffer>
 #include <QFontMetricsF>
+#include <QLibrary>
 #include <QPageSize>
 #include <QPdfWriter>
 #include <QPrinter>
@@ -10,6 +11,7 @@
 #include <array>
 
 #include "calc/RuntimeFault.h"
+#include "calc/Version.h"
 #include "data/SafeWrite.h"
 #include "frontend/painting/EquationPictures.h"
 #include "frontend/painting/PictureStore.h"
@@ -43,7 +45,20 @@ constexpr std::array<FontPair, 2> font_pairs{{
     {"Times New Roman", "Liberation Serif"},
 }};
 
+// Whether the print system took the last job. The toolkit sends the job and keeps the answer to itself, so that a
+// printer that is gone, or takes no jobs, would go unnoticed.
+bool Job_taken() {
+    using LastError = int (*)();
+    const auto last_error = reinterpret_cast<LastError>(QLibrary::resolve(QStringLiteral("cups"), 2, "cupsLastError"));
+    constexpr int first_failure = 0x0400; // of the status codes of the Internet Printing Protocol
+    return last_error == nullptr || last_error() < first_failure;
+}
+
 } // namespace
+
+QString Program_name() {
+    return QStringLiteral("Tarnvik " TARNVIK_VERSION);
+}
 
 QtPrintTarget::QtPrintTarget(std::unique_ptr<QPagedPaintDevice> device, std::function<void(QPagedPaintDevice&)> finish)
     : device_(std::move(device)), finish_(std::move(finish)) {
@@ -160,7 +175,7 @@ std::unique_ptr<PrintTarget> Pdf_target(const std::filesystem::path& file, const
     writer->setPageOrientation(layout ? layout->orientation() : QPageLayout::Portrait);
     writer->setPageMargins({});
     writer->setTitle(Q(title));
-    writer->setCreator(QStringLiteral("Tarnvik"));
+    writer->setCreator(Program_name());
     return std::make_unique<QtPrintTarget>(std::move(writer), [bytes, file](QPagedPaintDevice& /*writer*/) {
         const QByteArray& content = bytes->data();
         Safe_write(file, {content.constData(), static_cast<std::size_t>(content.size())}, {OldTail::drop}, "EndDoc");
@@ -171,7 +186,8 @@ std::unique_ptr<PrintTarget> Printer_target(std::unique_ptr<QPrinter> printer) {
     printer->setFullPage(true);
     printer->setResolution(device_dots_per_inch); // or the nearest that the printer has
     return std::make_unique<QtPrintTarget>(std::move(printer), [](QPagedPaintDevice& device) {
-        if (dynamic_cast<QPrinter&>(device).printerState() == QPrinter::Error) {
+        auto& sent = dynamic_cast<QPrinter&>(device);
+        if (sent.printerState() == QPrinter::Error || (sent.outputFormat() == QPrinter::NativeFormat && !Job_taken())) {
             Raise(fault_path_access, "EndDoc");
         }
     });

@@ -11,6 +11,7 @@
 #include <QPainter>
 #include <QPointF>
 #include <QRectF>
+#include <QString>
 
 #include <filesystem>
 #include <functional>
@@ -71,6 +72,9 @@ private:
     bool bold_{}, italic_{};
     int draw_width_{1};
 };
+
+// What a document names as its maker: the program and its version.
+QString Program_name();
 
 // A PDF file, on A4 or with the paper and orientation of a layout, written whole at the end of the document: until
 // then, and where it cannot be written, a former file stays. Errors of EndDoc: throws RuntimeFault (61, 75, 76).

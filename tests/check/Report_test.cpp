@@ -91,13 +91,13 @@ TEST(ReportGroup, a_print_that_fails_ends_where_it_fails) {
     EXPECT_EQ(lines[1].at("report").back().at("op"), "EndDoc");
 }
 
-TEST(ReportFile, is_drawn_once_with_the_project_as_its_title) {
+TEST(ReportFile, is_drawn_once_with_project_and_identification_as_its_title) {
     RecordingRendering rendering;
     const ToolRun run = Tool_with(&rendering, {"--lang", "Eng", "--set", "P=1", "--report", "out.pdf"});
     EXPECT_EQ(run.status, exit_holds) << run.err;
     ASSERT_EQ(rendering.files.size(), 1U);
     EXPECT_EQ(rendering.files[0], "out.pdf");
-    EXPECT_EQ(rendering.titles[0], "Project 1");
+    EXPECT_EQ(rendering.titles[0], "Project 1, Bolt Connections -1");
     EXPECT_TRUE(Printed(rendering.recorder, "21.11.2026"));
     EXPECT_EQ(rendering.recorder.calls.back().op, PrintCall::Op::EndDoc);
 }

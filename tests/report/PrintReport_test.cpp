@@ -75,6 +75,19 @@ TEST(PrintReport, changes_nothing_of_the_state_but_the_name_of_the_load_duration
     EXPECT_EQ(connection.s->Lastvar_txt, before);
 }
 
+TEST(PrintReport, its_title_is_project_and_identification) {
+    Connection connection{"Eng"};
+    connection.s->Prosjekt = "Hall A/B";
+    connection.s->Id = "node 7";
+    EXPECT_EQ(Report_title(*connection.s), "Hall A/B, node 7");
+    connection.s->Id = "";
+    EXPECT_EQ(Report_title(*connection.s), "Hall A/B");
+    connection.s->Prosjekt = "";
+    EXPECT_EQ(Report_title(*connection.s), "");
+    connection.s->Id = "node 7";
+    EXPECT_EQ(Report_title(*connection.s), "node 7");
+}
+
 TEST(PrintReport, numbers_follow_the_decimal_sign) {
     Connection connection;
     Set_decimal_sign(',');

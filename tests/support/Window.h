@@ -130,8 +130,8 @@ protected:
         if (window != nullptr) {
             window->close(); // a start after a normal end
         }
-        window = std::make_unique<frmMain>(s, Services{*box_service, dialogs, opener, settings, printer, clock},
-                                           Own_folders());
+        window = std::make_unique<frmMain>(
+            s, Services{*box_service, dialogs, opener, settings, *printer_service, clock}, Own_folders());
         QObject::connect(window.get(), &frmMain::Calculated, window.get(), [this] { ++passes; });
         window->Load();
         ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
@@ -268,6 +268,7 @@ protected:
     RecordingOpener opener;
     MemorySettingsStore settings;
     ScriptedPrinter printer;
+    PrinterService* printer_service{&printer};
     StoppedClock clock;
     ConnectionState s;
     std::unique_ptr<frmMain> window;

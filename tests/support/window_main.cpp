@@ -41,18 +41,20 @@ void Keep_message(QtMsgType type, const QMessageLogContext& /*context*/, const Q
     }
 }
 
-// One screen that the window fits on, of the resolution that QT_FONT_DPI names: the offscreen platform does not heed
-// that variable by itself.
+// One screen that the window fits on, unless TARNVIK_TEST_SCREEN names another size such as 1366x768, of the resolution
+// that QT_FONT_DPI names: the offscreen platform does not heed that variable by itself.
 bool Use_screen(const QTemporaryDir& home) {
     const int dpi = qEnvironmentVariableIsSet("QT_FONT_DPI") ? qEnvironmentVariableIntValue("QT_FONT_DPI") : 96;
+    const QStringList size =
+        qEnvironmentVariable("TARNVIK_TEST_SCREEN", QStringLiteral("3840x2160")).split(QLatin1Char('x'));
     const QString path = home.filePath(QStringLiteral("screen.json"));
     QFile file{path};
     if (!file.open(QIODevice::WriteOnly)) {
         return false;
     }
-    file.write(QStringLiteral(R"({"screens": [{"name": "test", "x": 0, "y": 0, "width": 3840, "height": 2160,
+    file.write(QStringLiteral(R"({"screens": [{"name": "test", "x": 0, "y": 0, "width": %2, "height": %3,
                                "logicalDpi": %1, "logicalBaseDpi": %1, "dpr": 1}]})")
-                   .arg(dpi)
+                   .arg(QString::number(dpi), size.constFirst(), size.constLast())
                    .toUtf8());
     qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + QFile::encodeName(path));
     return true;
@@ -83,6 +85,8 @@ int main(int argc, char** argv) {
     for (const char* name : {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME", "XDG_RUNTIME_DIR"}) {
         qputenv(name, path);
     }
+    qputenv("CUPS_SERVER",
+            QFile::encodeName(home.filePath(QStringLiteral("cups.sock")))); // none of the machine's printers
     if (!Use_screen(home)) {
         return 1;
     }

@@ -213,6 +213,7 @@ TEST_F(Controls, the_tab_key_goes_through_the_window_in_reading_order) {
                                             "Txt_h1",
                                             "Txt_b2",
                                             "Txt_h2",
+                                            "Pic_Dim",
                                             "Cmd_type(0)",
                                             "Cmd_type(1)",
                                             "Cmd_type(2)",

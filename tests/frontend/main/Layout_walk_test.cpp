@@ -18,6 +18,7 @@
 #include "frontend/dialogs/Frm_tarn_vik_fak_klass.h"
 #include "frontend/main/ControlTable.h"
 #include "frontend/painting/SetText.h"
+#include "spacing/Presentation.h"
 #include "tests/support/Window.h"
 
 namespace tarnvik::test {
@@ -66,7 +67,10 @@ public:
             QFont font = area.font();
             font.setBold(row.bold);
             const QFontMetricsF metrics{font};
-            QRectF letters = metrics.tightBoundingRect(QString::fromStdString(row.text));
+            const QString text = QString::fromStdString(row.text);
+            const QString words = text.trimmed();
+            QRectF letters = metrics.tightBoundingRect(words).translated(
+                metrics.horizontalAdvance(text.left(text.indexOf(words))), 0.0);
             letters.setRect(placed[i].room.left() + letters.left() * placed[i].narrowing,
                             std::round(placed[i].room.top() + metrics.ascent()) + letters.top(),
                             letters.width() * placed[i].narrowing, letters.height());
@@ -288,7 +292,7 @@ protected:
         }
     }
     // The part of the window below the menu bar.
-    QWidget& Ground() { return *window->centralWidget(); }
+    QWidget& Ground() { return Find("ground"); }
     void Measure_window(Measure& measure) {
         measure.Window(Ground(), Ground().rect());
         measure.Captions(Ground());
@@ -420,13 +424,37 @@ TEST_F(LayoutWalk, the_marks_of_old_results_and_of_the_sign) {
     Expect_none(measure);
 }
 
+TEST_F(LayoutWalk, sums_of_four_digits_are_drawn_as_wide_as_their_letters) {
+    for (const char* lang : {"Eng", "Nor"}) {
+        Start(lang);
+        Click("Opt_bolt_bulldog(1)");
+        for (const float height : {405.0F, 9999.0F}) { // "> h", "< h"
+            s.Sum_a = s.Sum_ca = s.Sum_b = s.Sum_cb = 1888.0F;
+            s.h1 = s.h2 = height;
+            s.Sum_a_txt = s.Sum_b_txt = "b1 + b2 + b3 + b4";
+            Screen screen;
+            Print_sum_a1(s, 70.0, 5.0, screen);
+            Print_sum_b1(s, 40.0, 5.0, screen);
+            const auto expect_whole = [](TableArea& table, const std::vector<PositionedText>& rows) {
+                table.Set_rows(rows);
+                Measure measure;
+                measure.Tables(table);
+                EXPECT_EQ(measure.Findings(), std::set<std::string>{});
+            };
+            expect_whole(Find<TableArea>("Pic_av_bolter_dif"), screen.Pic_av_bolter_dif);
+            expect_whole(Find<TableArea>("Pic_av_bulldog_dif"), screen.Pic_av_bulldog_dif);
+        }
+    }
+}
+
 TEST_F(LayoutWalk, the_frames_stand_below_the_menu_bar_inside_the_window) {
     for (const char* lang : {"Eng", "Nor"}) {
         Start(lang);
         const QRect menu = window->menuBar()->geometry();
         EXPECT_EQ(menu.width(), window->width());
-        EXPECT_GE(Ground().y(), menu.bottom() + 1);
-        EXPECT_LE(Ground().geometry().bottom(), window->rect().bottom());
+        const QRect ground{Ground().mapTo(window.get(), QPoint{}), Ground().size()};
+        EXPECT_GE(ground.top(), menu.bottom() + 1);
+        EXPECT_LE(ground.bottom(), window->rect().bottom());
         for (const char* frame : {"fra_input", "Fra_results"}) {
             EXPECT_TRUE(Ground().rect().contains(Find(frame).geometry())) << frame;
         }

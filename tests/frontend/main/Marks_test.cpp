@@ -287,6 +287,7 @@ TEST_F(ResultMarks, a_whole_check_by_keys_alone) {
         Keys(value);
         Key(Qt::Key_Tab);
     }
+    EXPECT_EQ(Focus(), "Pic_Dim");
     go_to("Cmd_type(3)");
     Key(Qt::Key_Space);
     go_to("Txt_last");
@@ -318,6 +319,34 @@ TEST_F(ResultMarks, a_whole_check_by_keys_alone) {
     EXPECT_TRUE(std::filesystem::exists(work / "keys.tnvik"));
     Key(Qt::Key_P, Qt::ControlModifier);
     EXPECT_EQ(printer.asked.size(), 1U);
+}
+
+// A click on the area lets the box before it be left and does nothing else, and so do the keys.
+TEST_F(ResultMarks, the_area_of_the_free_entry_shows_the_focus_that_it_takes) {
+    for (const char* lang : {"Eng", "Nor"}) {
+        Start(lang);
+        Click("Opt_valg");
+        Type("Txt_h2", "150");
+        const QImage before = Find("Pic_Dim").grab().toImage();
+        Key(Qt::Key_Tab);
+        EXPECT_EQ(Focus(), "Pic_Dim");
+        EXPECT_EQ(s.h2, 150.0F);
+        EXPECT_NE(Find("Pic_Dim").grab().toImage().pixelColor(1, 20), before.pixelColor(1, 20)); // clear of the boxes
+        passes = 0;
+        for (const Qt::Key key : {Qt::Key_Space, Qt::Key_Return, Qt::Key_Enter}) {
+            Key(key);
+            EXPECT_EQ(Focus(), "Pic_Dim");
+        }
+        EXPECT_EQ(passes, 0);
+        Key(Qt::Key_Tab);
+        EXPECT_EQ(Focus(), "Cmd_type(0)");
+        Key(Qt::Key_Backtab, Qt::ShiftModifier);
+        EXPECT_EQ(Focus(), "Pic_Dim");
+        Click("Txt_b2");
+        Key(Qt::Key_Return); // the last of the Enter chain
+        EXPECT_EQ(Focus(), "Pic_Dim");
+        EXPECT_NE(Find("Pic_Dim").grab().toImage().pixelColor(1, 20), before.pixelColor(1, 20));
+    }
 }
 
 TEST_F(ResultMarks, enter_presses_the_focused_button_of_a_dialog_and_no_other) {

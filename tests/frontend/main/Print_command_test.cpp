@@ -24,6 +24,7 @@ TEST_F(PrintCommand, prints_the_report_of_the_state_and_ends_the_job_twice) {
     Menu("mnuprint");
     ASSERT_EQ(printer.asked.size(), 1U);
     EXPECT_EQ(printer.asked[0].flags, 1048580);
+    EXPECT_EQ(printer.asked[0].document, "Project 1, Bolt Connections -1");
     ASSERT_EQ(printer.jobs.size(), 1U);
     Recorder expected;
     SpacingTexts texts;

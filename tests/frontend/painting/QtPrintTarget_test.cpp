@@ -2,14 +2,17 @@
 #include <array>
 #include <filesystem>
 
+#include <QBuffer>
 #include <QFontDatabase>
 #include <QGuiApplication>
 #include <QPageSize>
+#include <QPdfWriter>
 #include <QPrinter>
 #include <QProcess>
 #include <QRegularExpression>
 #include <QStandardPaths>
 
+#include "calc/Version.h"
 #include "frontend/painting/QtPrintTarget.h"
 #include "frontend/painting/Texts.h"
 #include "tests/support/Fakes.h"
@@ -234,6 +237,38 @@ TEST_F(PdfFile, a_printer_gets_both_pages) {
     }
     READ_WITH(info, "pdfinfo", {name});
     EXPECT_TRUE(info->contains(QRegularExpression{QStringLiteral("Pages: +2\n")})) << info->toStdString();
+}
+
+TEST_F(PdfFile, has_title_and_creator) {
+    Pdf_target(file, "Høyhall, node 7")->EndDoc();
+    READ_WITH(info, "pdfinfo", {name});
+    EXPECT_TRUE(info->contains(QRegularExpression{QStringLiteral("Title: +Høyhall, node 7\n")})) << info->toStdString();
+    EXPECT_TRUE(info->contains(QRegularExpression{QStringLiteral("Creator: +Tarnvik " TARNVIK_VERSION "\n")}))
+        << info->toStdString();
+}
+
+// A printer that takes one page.
+class OnePage : public QPdfWriter {
+public:
+    using QPdfWriter::QPdfWriter;
+    bool newPage() override { return false; }
+};
+
+TEST_F(PdfFile, a_page_that_cannot_begin_is_a_fault) {
+    QBuffer bytes;
+    bytes.open(QIODevice::WriteOnly);
+    QtPrintTarget target{std::make_unique<OnePage>(&bytes), [](QPagedPaintDevice&) { ADD_FAILURE() << "was sent"; }};
+    Full connection{"Eng"};
+    EXPECT_EQ(Fault_of([&] { PrintReport(target, *connection.s, connection.Pictures(), moment, texts); }),
+              fault_path_access);
+}
+
+TEST_F(PdfFile, a_job_that_cannot_be_sent_is_a_fault) {
+    QBuffer bytes;
+    bytes.open(QIODevice::WriteOnly);
+    QtPrintTarget target{std::make_unique<QPdfWriter>(&bytes), [](QPagedPaintDevice&) { Raise(fault_disk_full, "x"); }};
+    EXPECT_EQ(Fault_of([&] { target.EndDoc(); }), fault_disk_full);
+    target.EndDoc(); // a second one has no effect
 }
 
 TEST_F(PdfFile, a_printer_that_cannot_start_is_a_fault) {

@@ -20,9 +20,9 @@ export DISPLAY=${DRIVE_DISPLAY:-:88}
 work=$(mktemp -d)
 mkdir "$work/home" "$work/runtime" "$work/projects"
 chmod 700 "$work/runtime"
-cp "$program" "$(dirname "$program")"/*.csv "$work/"
+cp "$program" "$(dirname "$program")"/*.csv "$(dirname "$program")/tarnvik.folder" "$work/"
 export HOME=$work/home XDG_RUNTIME_DIR=$work/runtime LC_ALL=C.UTF-8
-unset XDG_CONFIG_HOME XDG_DATA_HOME XDG_CURRENT_DESKTOP
+unset XDG_CONFIG_HOME XDG_DATA_HOME XDG_STATE_HOME XDG_CURRENT_DESKTOP
 
 # Only what this script started is ended, by its number.
 started=()

@@ -24,7 +24,7 @@ export DISPLAY=${READ_DISPLAY:-:89}
 work=$(mktemp -d)
 mkdir "$work/home" "$work/runtime" "$work/program"
 chmod 700 "$work/runtime"
-cp "$program" "$(dirname "$program")"/*.csv "$work/program/"
+cp "$program" "$(dirname "$program")"/*.csv "$(dirname "$program")/tarnvik.folder" "$work/program/"
 export HOME=$work/home XDG_RUNTIME_DIR=$work/runtime LC_ALL=C.UTF-8 QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1
 unset XDG_CONFIG_HOME XDG_DATA_HOME XDG_STATE_HOME XDG_CURRENT_DESKTOP
 

@@ -1,7 +1,6 @@
 #!/usr/bin/env node
-// Makes the SVG files of frontend/pictures/equations: an equation from each *.tex, a figure from each *.figure.svg. They
-// are committed: the build needs neither npm nor TeX. To be run after each change of a source, with MathJax in a folder
-// outside the tree:
+// Makes the SVG files of frontend/pictures/equations: an equation from each *.tex. They are committed: the build needs
+// neither npm nor TeX. To be run after each change of a source, with MathJax in a folder outside the tree:
 //
 //     npm install --prefix /tmp/mathjax mathjax-full@3.2.2
 //     node tools/make_equations.mjs /tmp/mathjax
@@ -127,32 +126,11 @@ function equation(name) {
     return svgFile(name, roomy(box), paths.map(pathElement));
 }
 
-// A figure is an SVG drawn by hand in the same scale. Its lines <text x="" y="">TeX</text> are set as equations, centred
-// on that point.
-function figure(name) {
-    const source = readFileSync(join(folder, name), 'utf8');
-    const [x, y, width, height] = numbers(source.match(/viewBox="([^"]*)"/)[1]);
-    const elements = source.match(/<path[^>]*\/>|<text [^>]*>[^<]*<\/text>/g).map((element) => {
-        const label = element.match(/^<text x="([^"]*)" y="([^"]*)">(.*)<\/text>$/);
-        if (!label) {
-            return element.replace(/\s+/g, ' ');
-        }
-        const { box, paths } = typeset(label[3]);
-        const dx = Number(label[1]) - box.x - box.width / 2;
-        const dy = Number(label[2]) - box.y - box.height / 2;
-        return paths.map((path) => pathElement({ ...path, x: path.x + dx, y: path.y + dy })).join('\n');
-    });
-    return svgFile(name, { x, y, width, height }, elements);
-}
-
 const folder = join(dirname(fileURLToPath(import.meta.url)), '..', 'frontend', 'pictures', 'equations');
 for (const name of readdirSync(folder).sort()) {
-    const makers = { '.tex': equation, '.figure.svg': figure };
-    for (const [ending, make] of Object.entries(makers)) {
-        if (name.endsWith(ending)) {
-            const target = name.slice(0, -ending.length) + '.svg';
-            writeFileSync(join(folder, target), make(name));
-            console.log(target);
-        }
+    if (name.endsWith('.tex')) {
+        const target = name.slice(0, -'.tex'.length) + '.svg';
+        writeFileSync(join(folder, target), equation(name));
+        console.log(target);
     }
 }

@@ -1,6 +1,6 @@
-// The stored equations, and the figure of the splitting capacity, by their keys: form and control, as
-// "frmDetailed/Pic_r_a". The equations of the failure modes stand in the detailed calculations and in the report and
-// have a key in each; they are the right-hand sides, "Rk(a) = " stands beside them as text.
+// The stored equations by their keys: form and control, as "frmDetailed/Pic_r_a". Those of the failure modes stand in
+// the detailed calculations and in the report and have a key in each; they are the right-hand sides, "Rk(a) = " stands
+// beside them as text.
 //
 // They are SVG files of frontend/pictures/equations, compiled in, and painted as vectors. The letter size is the em of
 // the mathematical font, what a point size is in text; pictures painted with the same letter size have the same
@@ -18,7 +18,7 @@ class QRectF;
 
 namespace tarnvik {
 
-inline constexpr std::array<std::string_view, 23> equation_keys{
+inline constexpr std::array<std::string_view, 22> equation_keys{
     "frmDetailed/Pic_r_a",
     "frmDetailed/Pic_r_b",
     "frmDetailed/Pic_r_c",
@@ -41,7 +41,6 @@ inline constexpr std::array<std::string_view, 23> equation_keys{
     "Frm_tarn_vik_likninger/Pic_r_k",
     "Frm_tarn_vik_effbolt/pic_eff_bolts",
     "Frm_tarn_vik_txt_tverr_brudd/Pic_tverr_brudd",
-    "Frm_tarn_vik_txt_tverr_brudd/Pic_tverr_brudd_fig",
 };
 
 // Size of a picture at a letter size, in the letter size's unit. Nothing for a key that is not among equation_keys.

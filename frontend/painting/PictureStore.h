@@ -8,6 +8,8 @@
 #include <string_view>
 #include <vector>
 
+#include "spacing/sketch/Connection_picture.h"
+
 class QPainter;
 class QRectF;
 class QSizeF;
@@ -15,9 +17,10 @@ class QSizeF;
 namespace tarnvik {
 
 // Paints the picture of a key into a rectangle of the painter's scale. `unit` is the size of a pixel at 96 dots per
-// inch in that scale: line weights and letters follow it. False, with nothing painted, where the store has no picture
-// of that key.
-bool Paint_picture(std::string_view key, QPainter& painter, const QRectF& room, double unit = 1.0);
+// inch in that scale: line weights and letters follow it. The picture of a connection calls its members by `names`.
+// False, with nothing painted, where the store has no picture of that key.
+bool Paint_picture(std::string_view key, QPainter& painter, const QRectF& room, double unit = 1.0,
+                   MemberNames names = MemberNames::numbers);
 
 // The size that the window gives a picture, in pixels at 96 dots per inch.
 QSizeF Picture_size(std::string_view key);

@@ -11,7 +11,8 @@
 
 namespace tarnvik {
 
-inline constexpr double label_gap = 2.5; // from a dimension line to its label
+inline constexpr double label_gap = 3.0; // from a dimension line to its label
+inline constexpr double overshoot = 2.0; // of an extension beyond its dimension line
 
 // One distance of the case, from one edge, line of fasteners or end to the next.
 struct Dimension {
@@ -23,25 +24,26 @@ struct Dimension {
 };
 
 struct Chain {
-    std::vector<Dimension> dimensions; // one at least, each begins where the one before it ends
-    Point outward;                     // side of the labels
+    std::vector<Dimension> dimensions; // one at least, on one line
+    Point outward;                     // side of the labels, where there is room for them
     bool across{};                     // across the member, otherwise along it
     std::vector<Segment> extensions;   // from fasteners, edges and ends to the ends of the dimensions
-
-    // From the first end to the last.
-    [[nodiscard]] Segment Line() const { return {dimensions.front().line.a, dimensions.back().line.b}; }
 };
 
 // Where the dimensions of a member stand.
 struct Place {
     bool behind; // those across: on the side of the member's end, or of the lower end of one that runs through
-    bool clear;  // those across: outside what the other member covers
     bool first;  // those along: outside the first edge
 };
 
-// The dimensions of the first or the second member, index 0 or 1, of which the rules list so many. A member with no
-// distance along it has no chain there.
-Chain Chain_across(const Joint& joint, std::size_t member, const Place& place, MemberDistances listed);
-std::optional<Chain> Chain_along(const Joint& joint, std::size_t member, const Place& place, MemberDistances listed);
+// The dimensions of the first or the second member, index 0 or 1, of which the rules list so many, at their place or so
+// many pixels farther out. A member with no distance along it has no chain there.
+Chain Chain_across(const Joint& joint, std::size_t member, const Place& place, MemberDistances listed, double farther);
+std::optional<Chain> Chain_along(const Joint& joint, std::size_t member, const Place& place, MemberDistances listed,
+                                 double farther);
+
+// How far the other member reaches along `away`, which is u or its opposite: where its edges cross those of this one,
+// and where it ends within this one or just beside it.
+double Reach_over(const Member& member, const Member& other, double away);
 
 } // namespace tarnvik

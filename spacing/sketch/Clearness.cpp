@@ -4,150 +4,77 @@
 
 namespace tarnvik {
 
-namespace {
-
-// What must stand so far apart, in pixels.
-constexpr double between_lines = 5.0;
-constexpr double line_to_fastener = 4.0; // from its rim
-constexpr double around_label = 0.8;     // of each of two labels
-constexpr double label_to_fastener = 1.0;
-constexpr double label_to_line = 0.5;
-
-// What is a flaw when it stands no farther apart, and what it costs.
-constexpr double extension_to_line = 2.0;
-constexpr double extension_to_label = 3.0;
-constexpr double extension_to_force = 3.0;
-constexpr double between_labels = 3.5;
-constexpr double price_of_crossing = 0.08;     // an extension across the dimension line of another chain
-constexpr double price_of_near_line = 0.05;    // an extension close to a label of another chain
-constexpr double price_of_tight_labels = 0.04; // of different chains
-constexpr double price_on_force = 0.10;        // an extension across the force
-constexpr double price_on_edge = 0.015;        // a label on an edge or an end of a member
-
-bool Lines_clear(const std::vector<Segment>& lines, const std::vector<Point>& fasteners) {
-    for (std::size_t i = 0; i < lines.size(); ++i) {
-        for (std::size_t j = i + 1; j < lines.size(); ++j) {
-            if (Gap(lines[i], lines[j]) < between_lines) {
-                return false;
-            }
-        }
-        for (const Point& fastener : fasteners) {
-            if (Gap(fastener, lines[i]) < bolt_radius + line_to_fastener) {
-                return false;
-            }
-        }
-    }
-    return true;
+Rect Apart(const Rect& label) {
+    return {label.left - label_beside_label, label.low - label_above_label, label.right + label_beside_label,
+            label.high + label_above_label};
 }
 
-bool Labels_apart(const std::vector<Rect>& labels) {
-    for (std::size_t i = 0; i < labels.size(); ++i) {
-        for (std::size_t j = i + 1; j < labels.size(); ++j) {
-            if (labels[i].Grown(around_label).Touches(labels[j].Grown(around_label))) {
-                return false;
-            }
-        }
-    }
-    return true;
+Occupied::Occupied(const Joint& joint) : fasteners_(joint.fasteners) {
+    Set_edges(joint);
 }
 
-bool Label_clear(const Rect& label, const std::vector<Segment>& lines, const Composition& all) {
-    const auto on_fastener = [&label](Point fastener) {
-        return label.Touches(Around(fastener, bolt_radius + label_to_fastener));
+void Occupied::Set_edges(const Joint& joint) {
+    edges_.clear();
+    loaded_edges_.clear();
+    for (const Member& member : joint.members) {
+        (member.first_edge_loaded ? loaded_edges_ : edges_).push_back(member.First());
+        (member.other_edge_loaded ? loaded_edges_ : edges_).push_back(member.Other());
+        for (const double u : {member.near_u, member.far_u}) {
+            edges_.push_back({member.At(u, member.First_edge()), member.At(u, member.Other_edge())});
+        }
+    }
+}
+
+bool Occupied::Takes_label(const Rect& room) const {
+    const auto off = [](const std::vector<Segment>& lines, const Rect& grown) {
+        return std::none_of(lines.begin(), lines.end(), [&](const Segment& line) { return Touches(line, grown); });
     };
-    const auto on_line = [near = label.Grown(label_to_line)](const Segment& line) { return Touches(line, near); };
-    const auto on_extension = [&label](const Segment& extension) { return Touches(extension, label); };
-    const auto& fasteners = all.joint.fasteners;
-    return std::none_of(fasteners.begin(), fasteners.end(), on_fastener) &&
-           std::none_of(lines.begin(), lines.end(), on_line) &&
-           std::none_of(all.chains.begin(), all.chains.end(), [&](const Chain& chain) {
-               return std::any_of(chain.extensions.begin(), chain.extensions.end(), on_extension);
+    return off(edges_, room.Grown(medium / 2.0 + label_to_edge)) &&
+           off(loaded_edges_, room.Grown(thick / 2.0 + label_to_edge)) && off(lines_, room.Grown(label_to_line)) &&
+           off(extensions_, room.Grown(label_to_line)) &&
+           std::none_of(labels_.begin(), labels_.end(),
+                        [near = Apart(room)](const Rect& label) { return label.Touches(near); }) &&
+           std::none_of(fasteners_.begin(), fasteners_.end(), [&](Point fastener) {
+               return room.Touches(Around(fastener, bolt_radius + label_to_fastener));
            });
 }
 
-// The weights are added up one by one, in the order in which the flaws are found.
-class FlawSum {
-public:
-    void Add(bool found, double weight) { sum_ += found ? weight : 0.0; }
-    [[nodiscard]] double Value() const { return sum_; }
-
-private:
-    double sum_{};
-};
-
-// Extension lines across the dimension line of another chain, or close to a label of it.
-void Add_strayed(FlawSum& flaws, const Chain& chain, const Chain& other) {
-    for (const Segment& extension : chain.extensions) {
-        flaws.Add(Gap(extension, other.Line()) < extension_to_line, price_of_crossing);
-        for (const Dimension& dimension : other.dimensions) {
-            flaws.Add(Touches(extension, dimension.label_room.Grown(extension_to_label)), price_of_near_line);
-        }
-    }
+bool Occupied::Takes_line(const Segment& line) const {
+    const auto off = [&](const std::vector<Segment>& others, double gap) {
+        return std::none_of(others.begin(), others.end(),
+                            [&](const Segment& other) { return Nearer(line, other, gap); });
+    };
+    return off(lines_, line_to_line) && off(extensions_, extension_to_line) &&
+           std::none_of(labels_.begin(), labels_.end(),
+                        [&](const Rect& label) { return Touches(line, label.Grown(label_to_line)); }) &&
+           std::none_of(fasteners_.begin(), fasteners_.end(),
+                        [&](Point fastener) { return Nearer(fastener, line, bolt_radius + line_to_fastener); });
 }
 
-// Labels of two chains close together.
-void Add_tight(FlawSum& flaws, const Chain& chain, const Chain& other) {
-    for (const Dimension& one : chain.dimensions) {
-        for (const Dimension& another : other.dimensions) {
-            flaws.Add(one.label_room.Grown(between_labels).Touches(another.label_room), price_of_tight_labels);
-        }
-    }
+bool Occupied::Takes_extension(const Segment& extension) const {
+    constexpr double own = bolt_radius + 2.0; // it begins so near to its own fastener
+    return std::none_of(lines_.begin(), lines_.end(),
+                        [&](const Segment& line) { return Nearer(extension, line, extension_to_line); }) &&
+           std::none_of(labels_.begin(), labels_.end(),
+                        [&](const Rect& label) { return Touches(extension, label.Grown(label_to_line)); }) &&
+           std::none_of(fasteners_.begin(), fasteners_.end(), [&](Point fastener) {
+               return Nearer(fastener, extension, extension_to_fastener) && Length(fastener - extension.a) > own;
+           });
 }
 
-// Extension lines across the force.
-void Add_on_force(FlawSum& flaws, const Chain& chain, const Segment& arrow) {
-    for (const Segment& extension : chain.extensions) {
-        flaws.Add(Gap(extension, arrow) < extension_to_force, price_on_force);
-    }
-}
-
-// Labels on an edge or an end of a member.
-void Add_on_edge(FlawSum& flaws, const Chain& chain, const std::vector<Segment>& edges) {
-    for (const Dimension& dimension : chain.dimensions) {
-        for (const Segment& edge : edges) {
-            flaws.Add(Touches(edge, dimension.label_room), price_on_edge);
-        }
-    }
-}
-
-} // namespace
-
-bool Stands_clear(const Composition& all) {
-    std::vector<Segment> lines;
-    std::vector<Rect> labels;
-    for (const Chain& chain : all.chains) {
-        lines.push_back(chain.Line());
-        for (const Dimension& dimension : chain.dimensions) {
-            labels.push_back(dimension.label_room);
-        }
-    }
-    lines.push_back(all.force.arrow);
-    labels.push_back(all.force.letter_room);
-    return Lines_clear(lines, all.joint.fasteners) && Labels_apart(labels) &&
-           std::all_of(labels.begin(), labels.end(), [&](const Rect& label) { return Label_clear(label, lines, all); });
-}
-
-double Flaws(const Composition& all) {
-    std::vector<Segment> edges;
-    for (const Member& member : all.joint.members) {
-        const std::vector<Segment> outline = member.Outline();
-        edges.insert(edges.end(), outline.begin(), outline.end());
-    }
-    FlawSum flaws;
-    for (std::size_t i = 0; i < all.chains.size(); ++i) {
-        const Chain& chain = all.chains[i];
-        for (std::size_t j = 0; j < all.chains.size(); ++j) {
-            if (j != i) {
-                Add_strayed(flaws, chain, all.chains[j]);
-            }
-            if (j > i) {
-                Add_tight(flaws, chain, all.chains[j]);
+bool Occupied::Takes_grain(const Segment& line, double half_width) const {
+    const double gap = half_width + grain_to_anything;
+    for (const std::vector<Segment>* others : {&edges_, &loaded_edges_, &lines_, &extensions_}) {
+        for (const Segment& other : *others) {
+            if (Nearer(line, other, gap)) {
+                return false;
             }
         }
-        Add_on_force(flaws, chain, all.force.arrow);
-        Add_on_edge(flaws, chain, edges);
     }
-    return flaws.Value();
+    return std::none_of(labels_.begin(), labels_.end(),
+                        [&](const Rect& label) { return Touches(line, label.Grown(gap)); }) &&
+           std::none_of(fasteners_.begin(), fasteners_.end(),
+                        [&](Point fastener) { return Nearer(fastener, line, gap + bolt_radius); });
 }
 
 } // namespace tarnvik

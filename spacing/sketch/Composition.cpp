@@ -1,111 +1,144 @@
 #include "spacing/sketch/Composition.h"
 
 #include <algorithm>
-#include <cmath>
-#include <optional>
 #include <utility>
 
 #include "spacing/Catalogue.h"
+#include "spacing/sketch/Labels.h"
 
 namespace tarnvik {
 
 namespace {
 
-constexpr double force_from_fastener = 6.0; // from its rim to the arrow
-constexpr double force_from_label = 5.0;
-constexpr double force_letter_gap = 5.0; // from the arrow to its letter
-constexpr double force_step = 5.0;       // from one place that is tried to the next
+constexpr double chain_step = 4.0; // from one place that is tried to the next
+constexpr int near_places = 4;
+constexpr int chain_places = 9;
+constexpr double force_step = 5.0;
 constexpr int force_places = 8;
 
-// What must stand so far apart for a place to be clear.
-constexpr double line_to_letter = 3.0;
-constexpr double line_to_arrow = 4.5;
-constexpr double label_to_arrow = 4.0;
+constexpr double stub = 6.0;          // of a member, seen outside the other one
+constexpr double label_to_torn = 2.0; // and a dimension
 
-// Across, then along the first member and the second one.
-std::vector<Chain> Make_chains(const Joint& joint, int case_row, const Places& places) {
-    const CaseDistances& listed = case_distances[static_cast<std::size_t>(case_row)];
-    std::vector<Chain> chains;
-    for (std::size_t k = 0; k < joint.members.size(); ++k) {
-        const MemberDistances own = k == 0 ? listed.a : listed.b;
-        chains.push_back(Chain_across(joint, k, places[k], own));
-        if (std::optional<Chain> along = Chain_along(joint, k, places[k], own)) {
-            chains.push_back(*std::move(along));
-        }
+// The chain at the first place that is clear; at the usual one, and false, where none is. A label past the end of its
+// dimension is better than a chain far off.
+template <class Make> bool Add_chain(Composition& all, Occupied& occupied, Make make) {
+    std::optional<Chain> usual = make(0.0);
+    if (!usual) {
+        return true; // no such distances
     }
-    return chains;
-}
-
-// The first place along the pushed member for the force: beyond the fasteners and the dimensions across it.
-double Force_from(const Joint& joint, const std::vector<Chain>& chains, const Member& pushed) {
-    constexpr double label_room = 2.0 * digit_width + label_gap + 2.0; // beyond a dimension line
-    double from = joint.Farthest(pushed.u) + bolt_radius + force_from_fastener;
-    for (const Chain& chain : chains) {
-        if (chain.across && std::fabs(Dot(chain.outward, pushed.u) - 1.0) < 1e-6) {
-            from = std::max(from, Dot(chain.Line().a, pushed.u) + label_room + force_from_label);
-        }
-    }
-    return from;
-}
-
-// The force on the axis of its member, the letter beside it: side +1 towards the first edge, -1 towards the other one.
-Force Force_at(const Member& pushed, double u, double side, bool compression) {
-    const Point near = pushed.At(u, pushed.Axis());
-    const Point far = pushed.At(u + force_length, pushed.Axis());
-    Force force;
-    force.arrow = compression ? Segment{far, near} : Segment{near, far};
-    force.letter_at = 0.5 * (near + far) + (side * (letter_height / 2.0 + force_letter_gap)) * pushed.m;
-    force.letter_room = Around(force.letter_at, Size_of(force_letter, true));
-    return force;
-}
-
-// Whether the arrow and its letter stand clear of the dimensions.
-bool Clear_of(const Force& force, const std::vector<Chain>& chains) {
-    const Rect letter = force.letter_room.Grown(line_to_letter);
-    const auto line_clear = [&](const Segment& line) {
-        return !Touches(line, letter) && Gap(line, force.arrow) >= line_to_arrow;
-    };
-    const auto label_clear = [&](const Dimension& dimension) {
-        return !dimension.label_room.Touches(letter) &&
-               !Touches(force.arrow, dimension.label_room.Grown(label_to_arrow));
-    };
-    return std::all_of(chains.begin(), chains.end(), [&](const Chain& chain) {
-        return line_clear(chain.Line()) && std::all_of(chain.extensions.begin(), chain.extensions.end(), line_clear) &&
-               std::all_of(chain.dimensions.begin(), chain.dimensions.end(), label_clear);
-    });
-}
-
-// At the first place that is clear, outward step by step; at the very first where none is.
-Force Place_force(const Joint& joint, const std::vector<Chain>& chains, const Member& pushed, bool compression) {
-    const double from = Force_from(joint, chains, pushed);
-    for (int step = 0; step < force_places; ++step) {
-        for (const double side : {1.0, -1.0}) {
-            const Force force = Force_at(pushed, from + force_step * step, side, compression);
-            if (Clear_of(force, chains)) {
-                return force;
+    for (const bool past_ends : {false, true}) {
+        for (int place = 0; place < (past_ends ? chain_places : near_places); ++place) {
+            std::optional<Chain> chain = make(chain_step * place);
+            if (Fit(*chain, occupied, past_ends)) {
+                Add(occupied, *chain);
+                all.chains.push_back(*std::move(chain));
+                all.past_ends += past_ends ? 1 : 0;
+                return true;
             }
         }
     }
-    return Force_at(pushed, from, 1.0, compression);
+    Add(occupied, *usual);
+    all.chains.push_back(*std::move(usual));
+    return false;
+}
+
+// Across both members, then along them.
+bool Add_chains(Composition& all, Occupied& occupied, int case_row, const Places& places) {
+    const CaseDistances& listed = case_distances[static_cast<std::size_t>(case_row)];
+    bool clear = true;
+    for (const bool across : {true, false}) {
+        for (std::size_t k = 0; k < places.size(); ++k) {
+            const MemberDistances own = k == 0 ? listed.a : listed.b;
+            clear = Add_chain(all, occupied,
+                              [&](double farther) -> std::optional<Chain> {
+                                  if (across) {
+                                      return Chain_across(all.joint, k, places[k], own, farther);
+                                  }
+                                  return Chain_along(all.joint, k, places[k], own, farther);
+                              }) &&
+                    clear;
+        }
+    }
+    return clear;
+}
+
+// As far as a member is seen: outside the other one, and beyond the dimensions that stand on it.
+void Include_dimensions(Reach& reach, const Member& member, const std::vector<Chain>& chains) {
+    const auto include = [&](Point p) {
+        const double across = Dot(p, member.m);
+        if (across > member.Other_edge() - label_to_torn && across < member.First_edge() + label_to_torn) {
+            reach.far = std::max(reach.far, Dot(p, member.u) + label_to_torn + torn_wave);
+            reach.near = std::max(reach.near, -Dot(p, member.u) + label_to_torn + torn_wave);
+        }
+    };
+    for (const Chain& chain : chains) {
+        for (const Dimension& dimension : chain.dimensions) {
+            const Rect& room = dimension.label_room;
+            for (const Point& p :
+                 {dimension.line.a, dimension.line.b, Point{room.left, room.low}, Point{room.right, room.low},
+                  Point{room.left, room.high}, Point{room.right, room.high}}) {
+                include(p);
+            }
+        }
+    }
+}
+
+// Tears a member where it has been seen far enough.
+void Tear(Member& member, const Reach& reach) {
+    member.far_u = reach.far;
+    if (member.through) {
+        member.near_u = -reach.near;
+    }
+}
+
+// The grain and the torn ends.
+bool Add_grain(Composition& all, Occupied& occupied, std::array<Reach, 2>& reaches) {
+    bool clear = true;
+    for (std::size_t k = 0; k < reaches.size(); ++k) {
+        Include_dimensions(reaches[k], all.joint.members[k], all.chains);
+        all.grains[k] = Place_grain(all.joint, k, occupied, reaches[k]);
+        Tear(all.joint.members[k], reaches[k]);
+        clear = clear && all.grains[k];
+    }
+    occupied.Set_edges(all.joint);
+    return clear;
+}
+
+// The force at the first place that is clear; its member is seen so much farther.
+bool Add_force(Composition& all, Occupied& occupied, Member& pushed, bool compression) {
+    for (int place = 0; !Place_force(pushed, compression, occupied, all.force); ++place) {
+        if (place == force_places) {
+            return false;
+        }
+        pushed.far_u += force_step;
+        occupied.Set_edges(all.joint);
+    }
+    return true;
 }
 
 Rect Bounds_of(const Composition& all) {
     Rect bounds = empty_rect;
+    const auto include_room = [&bounds](const Rect& room) {
+        bounds.Include({room.left, room.low});
+        bounds.Include({room.right, room.high});
+    };
     for (const Chain& chain : all.chains) {
-        bounds.Include(chain.Line().a, 2.0);
+        for (const Segment& extension : chain.extensions) {
+            bounds.Include(extension.b, thin);
+        }
         for (const Dimension& dimension : chain.dimensions) {
+            bounds.Include(dimension.line.a, 2.0);
             bounds.Include(dimension.line.b, 2.0);
-            bounds.Include({dimension.label_room.left, dimension.label_room.low});
-            bounds.Include({dimension.label_room.right, dimension.label_room.high});
+            include_room(dimension.label_room);
         }
     }
     bounds.Include(all.force.arrow.a, 3.0);
     bounds.Include(all.force.arrow.b, 3.0);
-    bounds.Include(all.force.letter_at, letter_height / 2.0);
+    include_room(all.force.letter_room);
     for (const Member& member : all.joint.members) {
-        if (!member.through) {
+        for (const double u : {member.near_u, member.far_u}) {
             for (const double edge : {member.First_edge(), member.Other_edge()}) {
-                bounds.Include(member.At(member.end_u, edge), 1.0);
+                bounds.Include(member.At(u, edge), torn_wave);
             }
         }
     }
@@ -116,11 +149,21 @@ Rect Bounds_of(const Composition& all) {
 
 Composition Compose(int case_row, bool compression, double unit, const Places& places) {
     const char type = case_table[static_cast<std::size_t>(case_row)].type;
-    Composition all{Make_joint(type, Lattice_of(case_row), compression, unit), {}, {}, {}};
-    all.chains = Make_chains(all.joint, case_row, places);
-    const Member& pushed = all.joint.members[Type_of(type).force_on_1 ? 0 : 1];
-    all.force = Place_force(all.joint, all.chains, pushed, compression);
+    Composition all;
+    all.joint = Make_joint(type, Lattice_of(case_row), compression, unit);
+    Occupied occupied{all.joint};
+    std::array<Reach, 2> reaches{};
+    for (std::size_t k = 0; k < reaches.size(); ++k) {
+        const Member& own = all.joint.members[k];
+        const Member& other = all.joint.members[1 - k];
+        reaches[k] = {Reach_over(own, other, 1.0) + stub, Reach_over(own, other, -1.0) + stub};
+    }
+    all.angle = Place_angle(all.joint, occupied, reaches);
+    const bool chains = Add_chains(all, occupied, case_row, places);
+    const bool grain = Add_grain(all, occupied, reaches);
+    const bool force = Add_force(all, occupied, all.joint.members[Type_of(type).force_on_1 ? 0 : 1], compression);
     all.bounds = Bounds_of(all);
+    all.clear = chains && grain && force;
     return all;
 }
 

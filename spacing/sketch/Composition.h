@@ -1,30 +1,27 @@
-// A sketch before it is painted: the joint of a case with its dimensions and its force at chosen places. Joint
+// A sketch before it is painted: the joint of a case with its dimensions, its force, the angle and the grain. Joint
 // coordinates: pixels, y upward, the first fastener at the origin.
 #pragma once
 
 #include <array>
-#include <string_view>
+#include <optional>
 #include <vector>
 
 #include "spacing/sketch/Chains.h"
+#include "spacing/sketch/Signs.h"
 
 namespace tarnvik {
 
 using Places = std::array<Place, 2>; // of the two members
 
-struct Force {
-    Segment arrow; // from its tail to its tip
-    Point letter_at;
-    Rect letter_room;
-};
-inline constexpr double force_length = 30.0;
-inline constexpr std::string_view force_letter = "P"; // bold
-
 struct Composition {
     Joint joint;
     std::vector<Chain> chains;
     Force force;
-    Rect bounds; // of all that is to be read
+    std::optional<Angle> angle;                 // of oblique members
+    std::array<std::optional<Grain>, 2> grains; // of the members
+    Rect bounds{};                              // of all that is drawn
+    bool clear{};                               // everything has its room, see Clearness.h
+    int past_ends{};                            // chains with a label past their ends
 };
 
 // The case, a row of the catalogue, at a size: `unit` is an unloaded edge distance in pixels.

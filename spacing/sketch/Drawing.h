@@ -23,13 +23,25 @@ inline double Dot(Point a, Point b) {
 // One hand for all pictures: these are the only pens, tones and letters.
 enum class Pen : unsigned char {
     none,
-    outline,   // edges of a member
-    hidden,    // edges behind the other member, dashed
+    outline,       // edges of a member
+    loaded,        // the edge towards which the force drives the fasteners
+    hidden,        // edges behind the other member, dashed
+    hidden_loaded, // the same of the loaded edge
+    torn,          // where a member goes on
+    grain,
     extension, // from a fastener or an edge to a dimension line
-    dimension,
+    dimension, // and the arc of an angle
     bolt,
     force,
 };
+
+// Lines have three widths, pixels, each twice the one before: what measures is thin, what is there is medium, and what
+// loads or is loaded is thick.
+inline constexpr double thin = 0.6;
+inline constexpr double medium = 1.2;
+inline constexpr double thick = 2.4;
+double Width_of(Pen pen);
+bool Is_dashed(Pen pen);
 
 enum class Tone : unsigned char {
     none,
@@ -38,6 +50,10 @@ enum class Tone : unsigned char {
     white,
     black,
 };
+
+// Colours as 0xRRGGBB. They differ in grey as well, so that nothing is told by a colour alone.
+unsigned Colour_of(Pen pen);
+unsigned Colour_of(Tone tone);
 
 struct PolygonShape {
     std::vector<Point> corners;
@@ -53,7 +69,7 @@ struct CircleShape {
     Pen pen{Pen::none};
 };
 
-// A short text centred on a point. Letters are 8 points high.
+// A short text centred on a point: up and down, the middle of its capitals stands there.
 struct TextShape {
     Point centre;
     std::string text;
@@ -64,14 +80,17 @@ struct Drawing {
     std::vector<std::variant<PolygonShape, CircleShape, TextShape>> shapes;
 };
 
-// Room of a text at the letter size of the drawings, pixels, on the safe side.
+// All letters have one size: readable on the screen, 8.25 points on paper.
+inline constexpr double letter_pixels = 11.0;
+
+// Room of a text without descenders at that size, pixels, on the safe side.
 struct TextSize {
     double width, height;
 };
 TextSize Size_of(std::string_view text, bool bold);
 TextSize Size_of(const TextShape& text);
 
-inline constexpr double letter_height = 10.5;
+inline constexpr double letter_height = 8.4;
 inline constexpr double digit_width = 6.2;
 
 } // namespace tarnvik

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <optional>
-#include <vector>
 
 #include "spacing/sketch/Drawing.h"
 
@@ -44,6 +43,10 @@ double Span(TextSize size, Point direction);
 double Gap(Point p, const Segment& s);
 double Gap(const Segment& s, const Segment& t);
 
+// Whether the least distance is below a limit.
+bool Nearer(Point p, const Segment& s, double limit);
+bool Nearer(const Segment& s, const Segment& t, double limit);
+
 // The part of a segment inside a rectangle, edges included, as shares of the way from a to b; nothing where it passes
 // by.
 struct Part {
@@ -52,8 +55,5 @@ struct Part {
 std::optional<Part> Part_inside(const Segment& s, const Rect& r);
 Segment Cut(const Segment& s, const Part& part);
 bool Touches(const Segment& s, const Rect& r);
-
-// The part of a polygon inside a rectangle.
-std::vector<Point> Clipped(std::vector<Point> polygon, const Rect& r);
 
 } // namespace tarnvik

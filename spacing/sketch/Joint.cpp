@@ -12,27 +12,38 @@ namespace tarnvik {
 
 namespace {
 
+constexpr double unloaded_edge = 1.0; // in units; what the rules make larger is drawn larger
+constexpr double loaded_edge = 1.7;
+constexpr double line_distance = 1.0; // between two lines of fasteners, across the grain
+constexpr double short_end = 1.0;     // unloaded: the corners of an inclined end stay well inside the other member
+constexpr double flush_end = loaded_edge;
+constexpr double loaded_end = 2.2;
+
 // The first edge is the upper one; of an upright member the left one; of the rafter the outer one.
 // clang-format off
 constexpr std::array<JointType, 5> joint_types{{
-    //    leaves at  through  first edge  along first
+    //    leaves at  through  first edge
     // heel of a truss: top chord on bottom chord, the end of the bottom chord just outside the joint
-    {'1', {  27.0,   false,   +90.0,      true},
-          {   0.0,   false,   +90.0,      false},   true,  true},
+    {'1', {  27.0,   false,   +90.0},
+          {   0.0,   false,   +90.0},   true,  true,  short_end},
     // inclined strut under a beam that runs through
-    {'2', {   0.0,   true,    +90.0,      true},
-          { -130.0,  false,   -90.0,      true},    true,  false},
+    {'2', {   0.0,   true,    +90.0},
+          { -140.0,  false,   -90.0},   true,  false, short_end},
     // collar beam on a rafter that runs through; inward is to the right
-    {'3', {  35.0,   true,    +90.0,      true},
-          {   0.0,   false,   +90.0,      false},   true,  false},
+    {'3', {  35.0,   true,    +90.0},
+          {   0.0,   false,   +90.0},   true,  false, short_end},
     // beam on a column
-    {'4', {   0.0,   false,   +90.0,      true},
-          { -90.0,   false,   -90.0,      true},    false, false},
+    {'4', {   0.0,   false,   +90.0},
+          { -90.0,   false,   -90.0},   false, false, flush_end},
     // beam under a column
-    {'5', {   0.0,   false,   +90.0,      false},
-          {  90.0,   false,   +90.0,      true},    false, false},
-    //                                              oblique, force on 1
+    {'5', {   0.0,   false,   +90.0},
+          {  90.0,   false,   +90.0},   false, false, flush_end},
+    //                                oblique, force on 1, unloaded end
 }};
+
+// Three cases of type 5 have the rule table of type 4, where a column pushes its beam up. In type 5 it pushes down, so
+// there the distances are counted from the other edge and each number stands at the edge that it is meant for.
+constexpr bool counted_from_below = true;
 
 struct CaseLattice {
     std::string_view Case_code;
@@ -70,12 +81,12 @@ constexpr std::array<CaseLattice, case_count> case_lattices{{
     {"4.6.b", {2, 3}},
     {"5.1. ", {1, 1}},
     {"5.2.a", {2, 1}},
-    {"5.2.b", {1, 2}},
+    {"5.2.b", {1, 2, counted_from_below}},
     {"5.3.a", {3, 1}},
-    {"5.3.b", {1, 3}},
+    {"5.3.b", {1, 3, counted_from_below}},
     {"5.4. ", {2, 2}},
     {"5.6.a", {3, 2}},
-    {"5.6.b", {2, 3}},
+    {"5.6.b", {2, 3, counted_from_below}},
 }};
 // clang-format on
 
@@ -96,7 +107,8 @@ constexpr bool Measured(MemberDistances listed, const MemberType& member, int li
 
 constexpr bool Lattices_agree() {
     for (std::size_t i = 0; i < case_lattices.size(); ++i) {
-        const auto [n1, n2] = case_lattices[i].lattice;
+        const int n1 = case_lattices[i].lattice.n1;
+        const int n2 = case_lattices[i].lattice.n2;
         const CaseDistances& listed = case_distances[i];
         const JointType& joint = joint_types[static_cast<std::size_t>(case_table[i].type - '1')];
         if (case_lattices[i].Case_code != case_table[i].Case_code || n1 * n2 != case_table[i].n_bolt ||
@@ -109,21 +121,16 @@ constexpr bool Lattices_agree() {
 }
 static_assert(Lattices_agree());
 
-constexpr double unloaded_edge = 1.0; // in units; what the rules make larger is drawn larger
-constexpr double loaded_edge = 1.4;
-constexpr double line_distance = 1.0; // between two lines of fasteners, across the grain
-constexpr double unloaded_end = 1.3;
-constexpr double loaded_end = 1.9;
-
 // The member that carries the force across its grain: the bottom chord of the heel, otherwise member 1.
 std::size_t Carrier(char type) {
     return type == '1' ? 1 : 0;
 }
 
 // Whether the force drives the fasteners towards the carrier's first edge. Compression goes down the top chord or the
-// column on the beam, to the lower edge; up the strut or the column and out along the collar beam, to the first one.
-bool Towards_first_edge(char type, bool compression) {
-    return type == '1' || type == '5' ? !compression : compression;
+// column on the beam, to the lower edge; up the strut or the column and out along the collar beam, to the upper one.
+bool Towards_first_edge(char type, bool compression, bool from_below) {
+    const bool upward = type == '1' || type == '5' ? !compression : compression;
+    return upward != from_below;
 }
 
 bool End_loaded(char type, std::size_t member, bool compression) {
@@ -139,12 +146,12 @@ bool End_loaded(char type, std::size_t member, bool compression) {
 }
 
 // The directions of a member, and what the force loads of it.
-Member Direct_member(const MemberType& of, char type, std::size_t k, bool compression) {
+Member Direct_member(const MemberType& of, char type, std::size_t k, bool compression, bool from_below) {
     Member member;
     member.u = Direction(of.angle);
-    member.m = Direction(of.angle + of.first_edge);
+    member.m = Direction(of.angle + (from_below && k == 0 ? -of.first_edge : of.first_edge));
     member.through = of.through;
-    member.first_edge_loaded = k == Carrier(type) && Towards_first_edge(type, compression);
+    member.first_edge_loaded = k == Carrier(type) && Towards_first_edge(type, compression, from_below);
     member.other_edge_loaded = k == Carrier(type) && !member.first_edge_loaded;
     member.end_loaded = End_loaded(type, k, compression);
     return member;
@@ -164,17 +171,15 @@ void Set_lines(Member& member, Point other, int lines, double step, double unit)
     member.lines.push_back(at.back() - last * unit);
 }
 
-// The row whose last fastener is nearest to the member's end, and the end.
-void Set_row(Member& member, Point other, int lines, int in_row, double step, double unit) {
-    const int j_end = Dot(other, member.u) > 1e-9 ? 0 : lines - 1;
-    const Point start = (j_end * step) * other;
-    member.row_m = Dot(start, member.m);
-    for (int i = in_row - 1; i >= 0; --i) {
-        member.row.push_back(Dot(start, member.u) + i * step);
-    }
+// The end, so far from the fastener that is nearest to it, and where the member is torn.
+void Set_ends(Member& member, const Joint& joint, double unloaded_end, double unit) {
+    constexpr double beyond = 4000.0;
+    member.near_u = -beyond;
+    member.far_u = beyond;
     if (!member.through) {
         const double end = member.end_loaded ? loaded_end : unloaded_end;
-        member.end_u = member.row.back() - end * unit;
+        member.end_u = -joint.Farthest(-1.0 * member.u) - end * unit;
+        member.near_u = member.end_u;
     }
 }
 
@@ -189,12 +194,9 @@ Lattice Lattice_of(int case_row) {
 }
 
 std::vector<Segment> Member::Outline() const {
-    std::vector<Segment> outline;
-    for (const double edge : {First_edge(), Other_edge()}) {
-        outline.push_back({At(Near_u(), edge), At(Far_u(), edge)});
-    }
+    std::vector<Segment> outline{First(), Other()};
     if (!through) {
-        outline.push_back({At(end_u, First_edge()), At(end_u, Other_edge())});
+        outline.push_back(End());
     }
     return outline;
 }
@@ -209,7 +211,8 @@ double Joint::Farthest(Point direction) const {
 
 Joint Make_joint(char type, Lattice lattice, bool compression, double unit) {
     const JointType& of = Type_of(type);
-    Joint joint{{Direct_member(of.member_1, type, 0, compression), Direct_member(of.member_2, type, 1, compression)},
+    Joint joint{{Direct_member(of.member_1, type, 0, compression, lattice.from_below),
+                 Direct_member(of.member_2, type, 1, compression, lattice.from_below)},
                 {},
                 of.oblique};
     auto& [member_1, member_2] = joint.members;
@@ -224,9 +227,10 @@ Joint Make_joint(char type, Lattice lattice, bool compression, double unit) {
         }
     }
     Set_lines(member_1, u2, lattice.n2, step, unit);
-    Set_row(member_1, u2, lattice.n2, lattice.n1, step, unit);
     Set_lines(member_2, u1, lattice.n1, step, unit);
-    Set_row(member_2, u1, lattice.n1, lattice.n2, step, unit);
+    for (Member& member : joint.members) {
+        Set_ends(member, joint, of.unloaded_end, unit);
+    }
     return joint;
 }
 

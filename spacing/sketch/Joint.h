@@ -16,14 +16,14 @@ struct MemberType {
     double angle;
     bool through;
     double first_edge; // direction of the first edge, seen from the axis: 90 degrees to the left or to the right
-    bool along_first;  // the dimensions along the member stand outside the first edge, where there is a choice
 };
 
 struct JointType {
     char type; // as in the catalogue
     MemberType member_1, member_2;
-    bool oblique;    // the angle between the members is free; otherwise it is a right one
-    bool force_on_1; // the force acts along member 1, otherwise along member 2
+    bool oblique;        // the angle between the members is free; otherwise it is a right one
+    bool force_on_1;     // the force acts along member 1, otherwise along member 2
+    double unloaded_end; // in units: so that the end is flush with an edge of the other member or well apart from it
 };
 
 // Of the types '1' to '5'.
@@ -32,6 +32,7 @@ const JointType& Type_of(char type);
 // Number of fasteners along the grain of member 1 and of member 2.
 struct Lattice {
     int n1, n2;
+    bool from_below{}; // the distances across member 1 are counted from its lower edge
 };
 
 // Of a case, a row of the catalogue.
@@ -44,10 +45,8 @@ struct Member {
     std::vector<double> lines; // across: first edge, lines of fasteners, other edge, along m, falling
     bool first_edge_loaded{};  // the force drives the fasteners towards it
     bool other_edge_loaded{};
-    double end_u{};          // its end at the joint; no meaning where it runs through
-    bool end_loaded{};       // likewise
-    std::vector<double> row; // fasteners of the row that is measured along the grain, falling along u
-    double row_m{};          // where that row lies
+    double end_u{};    // its end at the joint; no meaning where it runs through
+    bool end_loaded{}; // likewise
 
     // The point so far along the member and so far across it.
     [[nodiscard]] Point At(double along, double across) const { return along * u + across * m; }
@@ -55,15 +54,14 @@ struct Member {
     [[nodiscard]] double Other_edge() const { return lines.back(); }
     [[nodiscard]] double Axis() const { return (First_edge() + Other_edge()) / 2.0; }
 
-    // From where it begins at the joint, or beyond every picture where it runs through, to beyond every picture.
-    [[nodiscard]] double Near_u() const { return through ? -beyond : end_u; }
-    [[nodiscard]] double Far_u() const { return beyond; }
+    // From where it begins, at the joint or torn, to where it is torn.
+    double near_u{}, far_u{};
 
-    // The lines that are seen of it: its edges and, where it does not run through, its end.
+    // The edges that are seen of it and, where it does not run through, its end.
+    [[nodiscard]] Segment First() const { return {At(near_u, First_edge()), At(far_u, First_edge())}; }
+    [[nodiscard]] Segment Other() const { return {At(near_u, Other_edge()), At(far_u, Other_edge())}; }
+    [[nodiscard]] Segment End() const { return {At(end_u, First_edge()), At(end_u, Other_edge())}; }
     [[nodiscard]] std::vector<Segment> Outline() const;
-
-private:
-    static constexpr double beyond = 4000.0;
 };
 
 struct Joint {
@@ -77,7 +75,8 @@ struct Joint {
 
 inline constexpr double bolt_radius = 3.4; // pixels, at every size of the joint
 
-// The joint with an unloaded edge distance of `unit` pixels; what the rules make larger is drawn larger.
+// The joint with an unloaded edge distance of `unit` pixels; what the rules make larger is drawn larger. Members are
+// torn beyond every picture.
 Joint Make_joint(char type, Lattice lattice, bool compression, double unit);
 
 } // namespace tarnvik

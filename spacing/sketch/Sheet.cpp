@@ -3,7 +3,7 @@
 namespace tarnvik {
 
 bool Fits(const Rect& bounds, double width, double height) {
-    constexpr double margin = 3.0;
+    constexpr double margin = 2.0;
     return bounds.right - bounds.left + 2.0 * margin <= width && bounds.high - bounds.low + 2.0 * margin <= height;
 }
 

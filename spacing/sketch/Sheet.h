@@ -11,7 +11,6 @@ struct Sheet {
 
     // From joint coordinates, y upward, to pixels of the drawing, y downward.
     [[nodiscard]] Point Place(Point p) const { return {origin.x + p.x, height - (origin.y + p.y)}; }
-    [[nodiscard]] Rect Room() const { return {0.0, 0.0, width, height}; }
 };
 
 // Whether a sheet holds what takes these bounds, with a margin around it.

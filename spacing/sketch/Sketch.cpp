@@ -7,19 +7,14 @@ namespace tarnvik {
 
 namespace {
 
-void Paint_force(Painter& painter, const Force& force) {
-    constexpr double head = 9.0;
-    constexpr double covered = 6.0; // of the line, by the head
-    const Point direction = (1.0 / force_length) * (force.arrow.b - force.arrow.a);
-    painter.Paint_line({force.arrow.a, force.arrow.b - covered * direction}, Pen::force);
-    painter.Paint_arrow_head(force.arrow.b, direction, head);
-    painter.Paint_text(force.letter_at, force_letter, true);
-}
-
 // The members, then what is measured from, the fasteners, and over all of it the dimensions and the force.
 void Paint(Painter& painter, const Composition& all) {
     Paint_members(painter, all.joint, 1);
-    painter.Paint_hidden_edges(all.joint.members[0], all.joint.members[1]);
+    for (const std::optional<Grain>& grain : all.grains) {
+        if (grain) {
+            painter.Paint_grain(*grain);
+        }
+    }
     for (const Chain& chain : all.chains) {
         for (const Segment& extension : chain.extensions) {
             painter.Paint_line(extension, Pen::extension);
@@ -33,7 +28,10 @@ void Paint(Painter& painter, const Composition& all) {
             painter.Paint_dimension(dimension);
         }
     }
-    Paint_force(painter, all.force);
+    if (all.angle) {
+        painter.Paint_angle(*all.angle);
+    }
+    painter.Paint_force(all.force);
 }
 
 } // namespace
@@ -43,7 +41,7 @@ Sketch Draw_sketch(int case_row, bool compression, double width, double height) 
     Sketch sketch;
     sketch.unit = choice.fits ? choice.unit : 0.0;
     sketch.fits = choice.fits;
-    const Composition all = Compose(case_row, compression, choice.unit, choice.places);
+    const Composition& all = choice.all;
     const Sheet sheet = Centred(all.bounds, width, height);
     Painter painter{sheet, sketch.drawing};
     Paint(painter, all);

@@ -5,7 +5,6 @@
 #include <string>
 
 #include "spacing/Catalogue.h"
-#include "spacing/sketch/Clearness.h"
 #include "spacing/sketch/Sheet.h"
 
 namespace tarnvik {
@@ -21,40 +20,41 @@ TEST(Choice, is_clear_and_fits_the_room_in_every_case) {
                          (compression ? " compression" : " tension"));
             const Choice choice = Choose(row, compression, width, height);
             EXPECT_TRUE(choice.fits);
-            const Composition all = Compose(row, compression, choice.unit, choice.places);
-            EXPECT_TRUE(Fits(all.bounds, width, height));
-            EXPECT_TRUE(Stands_clear(all));
-            // The next larger one does not fit or is not clear.
-            const Composition larger = Compose(row, compression, choice.unit + 1.0, choice.places);
-            EXPECT_FALSE(choice.unit < 30.0 && Fits(larger.bounds, width, height) && Stands_clear(larger));
+            EXPECT_TRUE(choice.all.clear);
+            EXPECT_TRUE(Fits(choice.all.bounds, width, height));
+            // A larger one does not fit, or has more labels past the ends of their dimensions.
+            const Composition larger = Compose(row, compression, choice.unit + 0.5, Places_of(row));
+            EXPECT_FALSE(choice.unit < 28.0 && larger.clear && larger.past_ends <= choice.all.past_ends &&
+                         Fits(larger.bounds, width, height));
         }
     }
 }
 
-TEST(Choice, is_the_least_size_at_the_usual_places_where_nothing_fits) {
+TEST(Choice, is_the_least_size_where_nothing_fits) {
     const Choice choice = Choose(Find_case("1.6. "), true, 40.0, 40.0);
     EXPECT_FALSE(choice.fits);
     EXPECT_EQ(choice.unit, 8.0);
+    EXPECT_FALSE(choice.all.chains.empty());
 }
 
 TEST(Choice, grows_no_farther_than_its_largest_unit) {
     const Choice choice = Choose(Find_case("4.1. "), true, 2000.0, 2000.0);
     EXPECT_TRUE(choice.fits);
-    EXPECT_EQ(choice.unit, 30.0);
+    EXPECT_EQ(choice.unit, 28.0);
 }
 
-TEST(Choice, of_places_brings_a_larger_sketch_than_one_fixed_place) {
-    // At the usual places alone some case would have to be drawn smaller in the window.
-    int gained = 0;
+TEST(Choice, places_are_those_of_the_type) {
     for (int row = 0; row < case_count; ++row) {
-        const Choice choice = Choose(row, true, width, height);
-        const JointType& type = Type_of(case_table[static_cast<std::size_t>(row)].type);
-        const Places usual{Place{false, true, type.member_1.along_first},
-                           Place{false, true, type.member_2.along_first}};
-        const Composition fixed = Compose(row, true, choice.unit, usual);
-        gained += Fits(fixed.bounds, width, height) && Stands_clear(fixed) ? 0 : 1;
+        const char type = case_table[static_cast<std::size_t>(row)].type;
+        const Places places = Places_of(row);
+        // Across: behind the end of the heel's top chord, on the far side of its bottom chord.
+        EXPECT_EQ(places[0].behind, type == '1' || type == '2');
+        EXPECT_EQ(places[1].behind, type != '1' && type != '2');
+        // Along a beam above its column: above it, whichever edge is the first one.
+        if (type == '5') {
+            EXPECT_EQ(places[0].first, !Lattice_of(row).from_below);
+        }
     }
-    EXPECT_GT(gained, 0);
 }
 
 } // namespace

@@ -1,3 +1,5 @@
+// What is taken of a sketch. A beam on a column with one fastener at the origin, in compression at 10 pixels: the beam
+// from x = -22 with edges at y = 17 (loaded) and -10, the column below y = 17 with edges at x = -10 and 10.
 #include "spacing/sketch/Clearness.h"
 
 #include <gtest/gtest.h>
@@ -5,98 +7,87 @@
 namespace tarnvik {
 namespace {
 
-// One dimension with its label and no extension.
-Chain Lone(const Segment& line, Point label_at) {
-    Chain chain;
-    chain.dimensions.push_back({"a1", line, label_at, Around(label_at, Size_of("a1", false)), false});
-    return chain;
+const Joint joint = Make_joint('4', {1, 1}, true, 10.0);
+
+// A label of 12.4 by 8.4.
+Rect Label(double x, double y) {
+    return Around(Point{x, y}, Size_of("a1", false));
 }
 
-// A beam on a column with one fastener, its force and these chains well away from both.
-Composition With(std::vector<Chain> chains) {
-    Composition all{Make_joint('4', {1, 1}, true, 10.0), std::move(chains), {}, {}};
-    all.force.arrow = {{0.0, -300.0}, {0.0, -270.0}};
-    all.force.letter_at = {15.0, -285.0};
-    all.force.letter_room = Around(all.force.letter_at, Size_of(force_letter, true));
-    return all;
+TEST(Clearness, a_label_keeps_off_edges_by_a_pixel_from_their_rims) {
+    const Occupied occupied{joint};
+    // Above the loaded edge, 2.4 wide, and below the other one, 1.2 wide.
+    EXPECT_TRUE(occupied.Takes_label(Label(100.0, 17.0 + 1.2 + 1.0 + 4.3)));
+    EXPECT_FALSE(occupied.Takes_label(Label(100.0, 17.0 + 1.2 + 1.0 + 4.1)));
+    EXPECT_TRUE(occupied.Takes_label(Label(100.0, -10.0 - 0.6 - 1.0 - 4.3)));
+    EXPECT_FALSE(occupied.Takes_label(Label(100.0, -10.0 - 0.6 - 1.0 - 4.1)));
+    EXPECT_FALSE(occupied.Takes_label(Label(-22.0, 3.0))); // on the end of the beam
+    EXPECT_FALSE(occupied.Takes_label(Label(10.0, -40.0)));
 }
 
-const Chain high = Lone({{100.0, 100.0}, {140.0, 100.0}}, {120.0, 110.0});
-const Chain higher = Lone({{100.0, 140.0}, {140.0, 140.0}}, {120.0, 150.0});
-
-TEST(Clearness, what_stands_apart_is_clear_and_without_flaws) {
-    const Composition all = With({high, higher});
-    EXPECT_TRUE(Stands_clear(all));
-    EXPECT_EQ(Flaws(all), 0.0);
+TEST(Clearness, a_label_keeps_off_fasteners_labels_and_lines) {
+    Occupied occupied{joint};
+    EXPECT_FALSE(occupied.Takes_label(Label(0.0, 9.5))); // 2 from the rim of the fastener: 3.4 + 2 + 4.2
+    EXPECT_TRUE(occupied.Takes_label(Label(0.0, 9.7)));
+    occupied.Add_label(Label(100.0, 80.0));
+    EXPECT_FALSE(occupied.Takes_label(Label(100.0 + 12.4 + 3.5, 80.0)));
+    EXPECT_TRUE(occupied.Takes_label(Label(100.0 + 12.4 + 3.7, 80.0)));
+    EXPECT_FALSE(occupied.Takes_label(Label(100.0, 80.0 + 8.4 + 1.3)));
+    EXPECT_TRUE(occupied.Takes_label(Label(100.0, 80.0 + 8.4 + 1.5)));
+    for (const bool extension : {false, true}) {
+        Occupied lined{joint};
+        const Segment line{{80.0, 100.0}, {120.0, 100.0}};
+        extension ? lined.Add_extension(line) : lined.Add_line(line);
+        EXPECT_FALSE(lined.Takes_label(Label(100.0, 100.0 + 4.2 + 1.1)));
+        EXPECT_TRUE(lined.Takes_label(Label(100.0, 100.0 + 4.2 + 1.3)));
+    }
 }
 
-TEST(Clearness, dimension_lines_keep_5_pixels_from_each_other_and_from_the_force) {
-    const auto at = [](double y) { return Lone({{150.0, y}, {190.0, y}}, {170.0, y + 30.0}); };
-    const Chain line = Lone({{150.0, 100.0}, {190.0, 100.0}}, {170.0, 80.0});
-    EXPECT_FALSE(Stands_clear(With({line, at(104.9)})));
-    EXPECT_TRUE(Stands_clear(With({line, at(105.1)})));
-    Composition all = With({line});
-    all.force.arrow = {{170.0, 104.0}, {170.0, 134.0}};
-    EXPECT_FALSE(Stands_clear(all));
+TEST(Clearness, a_dimension_line_keeps_off_others_fasteners_and_labels_but_may_cross_edges) {
+    Occupied occupied{joint};
+    EXPECT_TRUE(occupied.Takes_line({{50.0, -50.0}, {50.0, 50.0}})); // across both edges of the beam
+    EXPECT_FALSE(occupied.Takes_line({{-20.0, 7.3}, {20.0, 7.3}}));  // the fastener has a radius of 3.4
+    EXPECT_TRUE(occupied.Takes_line({{-20.0, 7.5}, {20.0, 7.5}}));
+    occupied.Add_line({{80.0, 100.0}, {120.0, 100.0}});
+    EXPECT_FALSE(occupied.Takes_line({{80.0, 105.9}, {120.0, 105.9}}));
+    EXPECT_TRUE(occupied.Takes_line({{80.0, 106.1}, {120.0, 106.1}}));
+    occupied.Add_extension({{200.0, 0.0}, {200.0, 100.0}});
+    EXPECT_FALSE(occupied.Takes_line({{180.0, 50.0}, {220.0, 50.0}}));
+    occupied.Add_label(Label(300.0, 80.0));
+    EXPECT_FALSE(occupied.Takes_line({{280.0, 80.0}, {320.0, 80.0}}));
 }
 
-TEST(Clearness, dimension_lines_keep_off_the_fasteners) {
-    // The fastener at the origin has a radius of 3.4.
-    EXPECT_FALSE(Stands_clear(With({Lone({{-20.0, 7.3}, {20.0, 7.3}}, {0.0, 40.0})})));
-    EXPECT_TRUE(Stands_clear(With({Lone({{-20.0, 7.5}, {20.0, 7.5}}, {0.0, 40.0})})));
+TEST(Clearness, an_extension_passes_foreign_fasteners_by_three_radii_and_crosses_no_dimension) {
+    Occupied occupied{joint};
+    EXPECT_TRUE(occupied.Takes_extension({{4.4, 0.0}, {60.0, 0.0}})); // of this fastener
+    EXPECT_FALSE(occupied.Takes_extension({{-40.0, 10.1}, {60.0, 10.1}}));
+    EXPECT_TRUE(occupied.Takes_extension({{-40.0, 10.3}, {60.0, 10.3}}));
+    occupied.Add_line({{50.0, -20.0}, {50.0, 20.0}});
+    EXPECT_FALSE(occupied.Takes_extension({{4.4, 0.0}, {60.0, 0.0}}));
+    EXPECT_FALSE(occupied.Takes_extension({{4.4, 0.0}, {48.1, 0.0}}));
+    EXPECT_TRUE(occupied.Takes_extension({{4.4, 0.0}, {47.9, 0.0}}));
+    occupied.Add_label(Label(100.0, 100.0));
+    EXPECT_FALSE(occupied.Takes_extension({{100.0, 60.0}, {100.0, 140.0}}));
 }
 
-TEST(Clearness, labels_keep_off_each_other_the_fasteners_and_the_lines) {
-    const Segment far_off{{200.0, 200.0}, {240.0, 200.0}};
-    const auto beside = [&](double gap) { // of the label of `high`, 12.4 wide
-        return With({high, Lone(far_off, {120.0 + 12.4 + gap, 110.0})});
-    };
-    EXPECT_FALSE(Stands_clear(beside(1.5)));
-    EXPECT_TRUE(Stands_clear(beside(1.7)));
-    EXPECT_FALSE(Stands_clear(With({Lone(far_off, {0.0, 9.5})}))); // over the fastener
-    EXPECT_TRUE(Stands_clear(With({Lone(far_off, {0.0, 9.8})})));
-    EXPECT_FALSE(Stands_clear(With({high, Lone(far_off, {120.0, 95.0})}))); // on the line of `high`
+TEST(Clearness, the_grain_keeps_off_everything) {
+    Occupied occupied{joint};
+    const double half_width = 3.0;
+    EXPECT_TRUE(occupied.Takes_grain({{60.0, 3.5}, {80.0, 3.5}}, half_width)); // in the middle of the beam
+    EXPECT_FALSE(occupied.Takes_grain({{60.0, 11.5}, {80.0, 11.5}}, half_width));
+    EXPECT_FALSE(occupied.Takes_grain({{-10.0, 9.0}, {4.0, 9.0}}, half_width)); // on the fastener
+    occupied.Add_label(Label(70.0, 3.5));
+    EXPECT_FALSE(occupied.Takes_grain({{60.0, 3.5}, {80.0, 3.5}}, half_width));
 }
 
-TEST(Clearness, a_label_keeps_off_every_extension) {
-    Chain crossed = higher;
-    crossed.extensions.push_back({{126.0, 90.0}, {126.0, 143.0}}); // through the label of `high`
-    EXPECT_FALSE(Stands_clear(With({high, crossed})));
-    crossed.extensions = {{{127.0, 90.0}, {127.0, 143.0}}}; // just beside it
-    EXPECT_TRUE(Stands_clear(With({high, crossed})));
-}
-
-TEST(Clearness, an_extension_across_a_foreign_dimension_and_near_its_label_is_a_flaw) {
-    Chain crossing = higher;
-    crossing.extensions.push_back({{135.0, 90.0}, {135.0, 143.0}});
-    EXPECT_DOUBLE_EQ(Flaws(With({high, crossing})), 0.08);
-    crossing.extensions = {{{127.0, 90.0}, {127.0, 143.0}}};
-    EXPECT_DOUBLE_EQ(Flaws(With({high, crossing})), 0.08 + 0.05);
-    // Across its own dimension it is none.
-    Chain own = high;
-    own.extensions.push_back({{135.0, 90.0}, {135.0, 103.0}});
-    EXPECT_EQ(Flaws(With({own, higher})), 0.0);
-}
-
-TEST(Clearness, labels_close_together_count_once) {
-    const Chain near = Lone({{200.0, 200.0}, {240.0, 200.0}}, {120.0 + 12.4 + 3.0, 110.0});
-    EXPECT_DOUBLE_EQ(Flaws(With({high, near})), 0.04);
-    EXPECT_DOUBLE_EQ(Flaws(With({near, high})), 0.04);
-}
-
-TEST(Clearness, an_extension_across_the_force_is_a_flaw) {
-    Chain chain = high;
-    chain.extensions.push_back({{-20.0, -280.0}, {20.0, -280.0}});
-    EXPECT_DOUBLE_EQ(Flaws(With({chain})), 0.10);
-}
-
-TEST(Clearness, a_label_on_an_edge_of_a_member_is_a_flaw) {
-    // The beam's upper edge at y = 14, its end at x = -19 from there down to -10.
-    const Segment far_off{{200.0, 200.0}, {240.0, 200.0}};
-    EXPECT_DOUBLE_EQ(Flaws(With({Lone(far_off, {80.0, 14.0})})), 0.015);
-    EXPECT_DOUBLE_EQ(Flaws(With({Lone(far_off, {-19.0, 2.0})})), 0.015);
-    EXPECT_DOUBLE_EQ(Flaws(With({Lone(far_off, {-19.0, 14.0})})), 0.03); // at the corner
-    EXPECT_EQ(Flaws(With({Lone(far_off, {80.0, 30.0})})), 0.0);
+TEST(Clearness, edges_follow_the_torn_ends) {
+    Joint torn = joint;
+    Occupied occupied{torn};
+    EXPECT_FALSE(occupied.Takes_label(Label(100.0, 17.0)));
+    torn.members[0].far_u = 60.0;
+    occupied.Set_edges(torn);
+    EXPECT_TRUE(occupied.Takes_label(Label(100.0, 17.0)));
+    EXPECT_FALSE(occupied.Takes_label(Label(60.0, 3.5))); // on the torn end
 }
 
 } // namespace

@@ -115,23 +115,14 @@ TEST(Geometry, a_segment_on_an_edge_or_through_a_corner_touches) {
     EXPECT_TRUE(Touches({{3.0, 3.0}, {3.0, 3.0}}, box)); // a point
 }
 
-TEST(Geometry, a_polygon_is_cut_along_the_sides_of_the_rectangle) {
-    // A square over the upper right corner.
-    const std::vector<Point> corner = Clipped({{5.0, 2.0}, {15.0, 2.0}, {15.0, 12.0}, {5.0, 12.0}}, box);
-    ASSERT_EQ(corner.size(), 4U);
-    Rect bounds = empty_rect;
-    for (const Point& p : corner) {
-        bounds.Include(p);
-    }
-    EXPECT_EQ(bounds.left, 5.0);
-    EXPECT_EQ(bounds.low, 2.0);
-    EXPECT_EQ(bounds.right, 10.0);
-    EXPECT_EQ(bounds.high, 4.0);
-
-    // A triangle with its tip outside loses the tip and gains a corner.
-    EXPECT_EQ(Clipped({{2.0, 1.0}, {8.0, 1.0}, {5.0, 7.0}}, box).size(), 4U);
-    EXPECT_EQ(Clipped({{2.0, 1.0}, {8.0, 1.0}, {5.0, 3.0}}, box).size(), 3U);
-    EXPECT_TRUE(Clipped({{20.0, 1.0}, {28.0, 1.0}, {25.0, 3.0}}, box).empty());
+TEST(Geometry, nearer_is_a_gap_below_the_limit) {
+    const Segment level{{0.0, 0.0}, {10.0, 0.0}};
+    EXPECT_TRUE(Nearer(level, {{2.0, 3.0}, {8.0, 3.0}}, 3.1));
+    EXPECT_FALSE(Nearer(level, {{2.0, 3.0}, {8.0, 3.0}}, 3.0));
+    EXPECT_FALSE(Nearer(level, {{20.0, 0.0}, {30.0, 0.0}}, 9.0)); // far apart
+    EXPECT_TRUE(Nearer(level, {{5.0, -5.0}, {5.0, 5.0}}, 0.1));   // crossing
+    EXPECT_TRUE(Nearer(Point{13.0, 4.0}, level, 5.1));
+    EXPECT_FALSE(Nearer(Point{13.0, 4.0}, level, 5.0));
 }
 
 } // namespace

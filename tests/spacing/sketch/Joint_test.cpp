@@ -47,13 +47,13 @@ void Expect_lines(const std::vector<double>& lines, const std::vector<double>& w
 TEST(Joint, edges_stand_a_unit_from_the_outer_lines_and_a_loaded_one_farther) {
     // Beam on a column: compression drives the fasteners to the upper edge of the beam.
     const Joint pressed = Make_joint('4', {1, 1}, true, unit);
-    Expect_lines(pressed.members[0].lines, {14.0, 0.0, -10.0});
+    Expect_lines(pressed.members[0].lines, {17.0, 0.0, -10.0});
     Expect_lines(pressed.members[1].lines, {10.0, 0.0, -10.0});
-    EXPECT_NEAR(pressed.members[0].Axis(), 2.0, 1e-9);
+    EXPECT_NEAR(pressed.members[0].Axis(), 3.5, 1e-9);
     const Joint pulled = Make_joint('4', {1, 1}, false, unit);
-    Expect_lines(pulled.members[0].lines, {10.0, 0.0, -14.0});
+    Expect_lines(pulled.members[0].lines, {10.0, 0.0, -17.0});
     // Three lines across the beam, of fasteners along the column that leaves downward.
-    Expect_lines(Make_joint('4', {1, 3}, true, unit).members[0].lines, {14.0, 0.0, -10.0, -20.0, -30.0});
+    Expect_lines(Make_joint('4', {1, 3}, true, unit).members[0].lines, {17.0, 0.0, -10.0, -20.0, -30.0});
 }
 
 TEST(Joint, what_the_force_loads_in_every_type) {
@@ -87,7 +87,9 @@ TEST(Joint, what_the_force_loads_in_every_type) {
                                                          : '-'};
             EXPECT_EQ(loaded, k == 0 ? row.member_1 : row.member_2) << k + 1;
             if (!member.through) {
-                EXPECT_NEAR(member.end_u, member.end_loaded ? -19.0 : -13.0, 1e-9) << k + 1;
+                // At a right angle an unloaded end is flush with the loaded edge.
+                const double unloaded = row.type == '4' || row.type == '5' ? -17.0 : -10.0;
+                EXPECT_NEAR(member.end_u, member.end_loaded ? -22.0 : unloaded, 1e-9) << k + 1;
             }
         }
     }
@@ -115,33 +117,31 @@ TEST(Joint, neighbouring_lines_of_fasteners_are_a_unit_apart_at_every_angle) {
     }
 }
 
-TEST(Joint, the_row_along_a_member_is_the_one_that_is_nearest_to_its_end) {
+TEST(Joint, the_end_is_measured_from_the_nearest_fastener) {
     for (const char type : {'1', '2', '3', '4', '5'}) {
-        const Joint joint = Make_joint(type, {2, 3}, true, unit);
+        const Joint joint = Make_joint(type, {2, 3}, false, unit);
         for (const Member& member : joint.members) {
-            const double nearest = -joint.Farthest(-1.0 * member.u);
-            EXPECT_NEAR(member.row.back(), nearest, 1e-9) << type;
-            EXPECT_GT(member.row.front(), member.row.back()) << type;
-            for (const double u : member.row) {
-                const Point p = member.At(u, member.row_m);
-                bool found = false;
-                for (const Point& fastener : joint.fasteners) {
-                    found = found || Length(p - fastener) < 1e-9;
-                }
-                EXPECT_TRUE(found) << type;
+            if (!member.through) {
+                const double nearest = -joint.Farthest(-1.0 * member.u);
+                const double unloaded = type == '4' || type == '5' ? 17.0 : 10.0;
+                EXPECT_NEAR(nearest - member.end_u, member.end_loaded ? 22.0 : unloaded, 1e-9) << type;
             }
         }
     }
 }
 
 TEST(Joint, the_outline_has_an_end_where_the_member_does_not_run_through) {
-    const Joint joint = Make_joint('2', {1, 1}, true, unit);
-    const Member& beam = joint.members[0];
+    Joint joint = Make_joint('2', {1, 1}, true, unit);
+    Member& beam = joint.members[0];
     ASSERT_EQ(beam.Outline().size(), 2U);
-    EXPECT_LT(beam.Outline()[0].a.x, -1000.0); // beyond every picture on both sides
-    EXPECT_GT(beam.Outline()[0].b.x, 1000.0);
-    EXPECT_NEAR(beam.Outline()[0].a.y, 14.0, 1e-9);
-    EXPECT_NEAR(beam.Outline()[1].a.y, -10.0, 1e-9);
+    EXPECT_LT(beam.First().a.x, -1000.0); // torn beyond every picture on both sides
+    EXPECT_GT(beam.First().b.x, 1000.0);
+    EXPECT_NEAR(beam.First().a.y, 17.0, 1e-9);
+    EXPECT_NEAR(beam.Other().a.y, -10.0, 1e-9);
+    beam.near_u = -30.0;
+    beam.far_u = 50.0;
+    EXPECT_NEAR(beam.Outline()[1].a.x, -30.0, 1e-9);
+    EXPECT_NEAR(beam.Outline()[1].b.x, 50.0, 1e-9);
 
     const Member& strut = joint.members[1];
     const std::vector<Segment> outline = strut.Outline();
@@ -150,6 +150,23 @@ TEST(Joint, the_outline_has_an_end_where_the_member_does_not_run_through) {
     EXPECT_NEAR(Dot(outline[2].a, strut.u), strut.end_u, 1e-9);
     EXPECT_NEAR(Dot(outline[0].a, strut.u), strut.end_u, 1e-9);
     EXPECT_GT(Dot(outline[0].b, strut.u), 1000.0);
+}
+
+TEST(Joint, three_cases_count_across_the_beam_from_below) {
+    for (int row = 0; row < case_count; ++row) {
+        const std::string_view code = case_table[static_cast<std::size_t>(row)].Case_code;
+        EXPECT_EQ(Lattice_of(row).from_below, code == "5.2.b" || code == "5.3.b" || code == "5.6.b") << code;
+    }
+    // The column presses the beam down: its lower edge, the first one here, is loaded.
+    const Joint joint = Make_joint('5', Lattice_of(Find_case("5.2.b")), true, unit);
+    const Member& beam = joint.members[0];
+    EXPECT_NEAR(beam.m.y, -1.0, 1e-9);
+    EXPECT_TRUE(beam.first_edge_loaded);
+    EXPECT_FALSE(beam.other_edge_loaded);
+    Expect_lines(beam.lines, {17.0, 0.0, -10.0, -20.0}); // downward
+    EXPECT_NEAR(joint.members[1].m.x, -1.0, 1e-9);       // the column as everywhere
+    const Joint pulled = Make_joint('5', Lattice_of(Find_case("5.2.b")), false, unit);
+    EXPECT_TRUE(pulled.members[0].other_edge_loaded);
 }
 
 TEST(Joint, the_types_as_they_are_built) {

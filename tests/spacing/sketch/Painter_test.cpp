@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 
 namespace tarnvik {
@@ -32,45 +33,66 @@ TEST(Sheet, turns_y_downward) {
 
 TEST(Sheet, holds_what_fits_with_its_margin_and_centres_it) {
     const Rect bounds{-10.0, -20.0, 30.0, 10.0};
-    EXPECT_TRUE(Fits(bounds, 46.0, 36.0));
-    EXPECT_FALSE(Fits(bounds, 45.9, 36.0));
-    EXPECT_FALSE(Fits(bounds, 46.0, 35.9));
+    EXPECT_TRUE(Fits(bounds, 44.0, 34.0));
+    EXPECT_FALSE(Fits(bounds, 43.9, 34.0));
+    EXPECT_FALSE(Fits(bounds, 44.0, 33.9));
     const Sheet centred = Centred(bounds, 100.0, 80.0);
     Expect_point(centred.Place({10.0, -5.0}), 50.0, 40.0); // the middle of the bounds
 }
 
-TEST(Painter, wood_and_edges_end_at_the_sheet) {
-    Drawing drawing;
-    Painter painter{sheet, drawing};
-    const Joint joint = Make_joint('2', {1, 1}, true, 10.0); // edges of the beam at 14 and -10
-    painter.Paint_wood(joint.members[0], Tone::wood_1);
-    painter.Paint_edges(joint.members[0]);
-    const std::vector<PolygonShape> polygons = Polygons(drawing);
-    ASSERT_EQ(polygons.size(), 3U);
-    EXPECT_EQ(polygons[0].fill, Tone::wood_1);
-    EXPECT_EQ(polygons[0].pen, Pen::none);
-    ASSERT_EQ(polygons[0].corners.size(), 4U);
-    for (const Point& corner : polygons[0].corners) {
-        EXPECT_TRUE(std::fabs(corner.x) < 1e-9 || std::fabs(corner.x - 100.0) < 1e-9);
-        EXPECT_TRUE(std::fabs(corner.y - 36.0) < 1e-9 || std::fabs(corner.y - 60.0) < 1e-9);
-    }
-    EXPECT_EQ(polygons[1].pen, Pen::outline);
-    EXPECT_FALSE(polygons[1].closed);
-    Expect_point(polygons[1].corners[0], 0.0, 36.0);
-    Expect_point(polygons[1].corners[1], 100.0, 36.0);
-    Expect_point(polygons[2].corners[0], 0.0, 60.0);
+// A beam that runs through, torn at x = -30 and 50, its edges at 17 (loaded) and -10.
+Member Beam() {
+    Member beam = Make_joint('2', {1, 1}, true, 10.0).members[0];
+    beam.near_u = -30.0;
+    beam.far_u = 50.0;
+    return beam;
 }
 
-TEST(Painter, edges_outside_the_sheet_are_not_drawn) {
+TEST(Painter, wood_ends_where_the_member_is_torn) {
     Drawing drawing;
-    Painter painter{{100.0, 80.0, {40.0, -5.0}}, drawing}; // the lower edge and the fastener below the sheet
-    painter.Paint_edges(Make_joint('2', {1, 1}, true, 10.0).members[0]);
-    EXPECT_EQ(Polygons(drawing).size(), 1U);
+    Painter painter{sheet, drawing};
+    painter.Paint_wood(Beam(), Tone::wood_1);
+    const std::vector<PolygonShape> polygons = Polygons(drawing);
+    ASSERT_EQ(polygons.size(), 1U);
+    EXPECT_EQ(polygons[0].fill, Tone::wood_1);
+    EXPECT_EQ(polygons[0].pen, Pen::none);
+    for (const Point& corner : polygons[0].corners) {
+        const double off = std::min(std::fabs(corner.x - 10.0), std::fabs(corner.x - 90.0));
+        EXPECT_LE(off, torn_wave + 1e-9); // both ends are waves
+        EXPECT_GE(corner.y, 33.0 - 1e-9);
+        EXPECT_LE(corner.y, 60.0 + 1e-9);
+    }
+}
+
+TEST(Painter, a_loaded_edge_is_heavier_and_a_torn_end_is_a_fine_wave) {
+    Drawing drawing;
+    Painter painter{sheet, drawing};
+    painter.Paint_edges(Beam());
+    const std::vector<PolygonShape> polygons = Polygons(drawing);
+    ASSERT_EQ(polygons.size(), 4U);
+    EXPECT_EQ(polygons[0].pen, Pen::torn);
+    EXPECT_EQ(polygons[1].pen, Pen::torn);
+    EXPECT_GT(polygons[0].corners.size(), 8U);
+    EXPECT_FALSE(polygons[0].closed);
+    EXPECT_EQ(polygons[2].pen, Pen::loaded);
+    Expect_point(polygons[2].corners[0], 10.0, 33.0);
+    Expect_point(polygons[2].corners[1], 90.0, 33.0);
+    EXPECT_EQ(polygons[3].pen, Pen::outline);
+    Expect_point(polygons[3].corners[0], 10.0, 60.0);
+}
+
+TEST(Painter, an_end_is_straight) {
+    Drawing drawing;
+    Painter painter{sheet, drawing};
+    painter.Paint_edges(Make_joint('4', {1, 1}, true, 10.0).members[0]);
+    const std::vector<PolygonShape> polygons = Polygons(drawing);
+    EXPECT_EQ(polygons[1].pen, Pen::outline);
+    EXPECT_EQ(polygons[1].corners.size(), 2U);
 }
 
 TEST(Painter, edges_are_hidden_where_the_other_member_covers_them) {
-    // Beam on a column: upper edge of the beam at 14 above the end of the column at 13, lower edge at -10; the column
-    // covers x from -10 to 10. The beam's end at -19 lies outside.
+    // Beam on a column: lower edge of the beam at -10; the column covers x from -10 to 10. Its end is flush with the
+    // loaded upper edge, which is seen, and the beam's end lies outside.
     Drawing drawing;
     Painter painter{sheet, drawing};
     const Joint joint = Make_joint('4', {1, 1}, true, 10.0);
@@ -80,6 +102,18 @@ TEST(Painter, edges_are_hidden_where_the_other_member_covers_them) {
     EXPECT_EQ(polygons[0].pen, Pen::hidden);
     Expect_point(polygons[0].corners[0], 30.0, 60.0);
     Expect_point(polygons[0].corners[1], 50.0, 60.0);
+}
+
+TEST(Painter, a_loaded_edge_stays_the_heavier_one_where_it_is_hidden) {
+    Drawing drawing;
+    Painter painter{sheet, drawing};
+    const Joint joint = Make_joint('4', {1, 1}, false, 10.0); // the column pulls down: the lower edge is loaded
+    painter.Paint_hidden_edges(joint.members[0], joint.members[1]);
+    const std::vector<PolygonShape> polygons = Polygons(drawing);
+    ASSERT_EQ(polygons.size(), 2U);
+    EXPECT_EQ(polygons[0].pen, Pen::hidden);
+    EXPECT_EQ(polygons[1].pen, Pen::hidden_loaded);
+    Expect_point(polygons[1].corners[0], 30.0, 67.0);
 }
 
 TEST(Painter, a_bolt_is_a_circle_with_its_centre) {
@@ -92,6 +126,34 @@ TEST(Painter, a_bolt_is_a_circle_with_its_centre) {
     EXPECT_EQ(circle.radius, bolt_radius);
     EXPECT_EQ(circle.pen, Pen::bolt);
     EXPECT_EQ(std::get<CircleShape>(drawing.shapes[1]).fill, Tone::black);
+    painter.Paint_bolt({0.0, 0.0}, 2.0);
+    EXPECT_EQ(std::get<CircleShape>(drawing.shapes[2]).radius, 2.0);
+    EXPECT_LT(std::get<CircleShape>(drawing.shapes[3]).radius, 1.0);
+}
+
+TEST(Painter, an_arrow_is_a_heavy_line_with_its_head_at_the_tip) {
+    Drawing drawing;
+    Painter painter{sheet, drawing};
+    painter.Paint_force({{{0.0, 0.0}, {0.0, 20.0}}, {8.0, 10.0}, {}});
+    const std::vector<PolygonShape> polygons = Polygons(drawing);
+    ASSERT_EQ(polygons.size(), 2U);
+    EXPECT_EQ(polygons[0].pen, Pen::force);
+    Expect_point(polygons[1].corners[0], 40.0, 30.0);
+    EXPECT_EQ(std::get<TextShape>(drawing.shapes[2]).text, "P");
+}
+
+TEST(Painter, an_angle_is_an_arc_about_its_corner_with_its_letter) {
+    Drawing drawing;
+    Painter painter{sheet, drawing};
+    painter.Paint_angle({{0.0, 0.0}, 20.0, 0.0, 90.0, {10.0, 10.0}, {}});
+    const std::vector<PolygonShape> polygons = Polygons(drawing);
+    ASSERT_EQ(polygons.size(), 1U);
+    for (const Point& corner : polygons[0].corners) {
+        EXPECT_NEAR(std::hypot(corner.x - 40.0, corner.y - 50.0), 20.0, 1e-9);
+    }
+    Expect_point(polygons[0].corners.front(), 60.0, 50.0);
+    Expect_point(polygons[0].corners.back(), 40.0, 30.0);
+    EXPECT_EQ(std::get<TextShape>(drawing.shapes[1]).text, "\u03b1");
 }
 
 TEST(Painter, a_dimension_is_a_line_with_two_heads_and_its_label) {

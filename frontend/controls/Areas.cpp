@@ -11,7 +11,6 @@
 
 #include "frontend/controls/ReadLines.h"
 #include "frontend/controls/Style.h"
-#include "frontend/painting/PictureStore.h"
 #include "frontend/painting/SetText.h"
 #include "frontend/painting/Texts.h"
 
@@ -109,11 +108,18 @@ void PictureArea::Set_picture(std::string_view key) {
     }
 }
 
+void PictureArea::Set_names(MemberNames names) {
+    if (names_ != names) {
+        names_ = names;
+        update();
+    }
+}
+
 void PictureArea::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter{this};
     const QRectF room = QRectF{rect()}.adjusted(0.0, 0.0, -covered_, 0.0);
     painter.fillRect(rect(), Qt::white);
-    Paint_picture(key_, painter, room, logicalDpiX() / 96.0);
+    Paint_picture(key_, painter, room, logicalDpiX() / 96.0, names_);
     if (!framed_) {
         return;
     }

@@ -14,6 +14,7 @@
 #include <vector>
 
 #include "calc/Screen.h"
+#include "frontend/painting/PictureStore.h"
 
 namespace tarnvik {
 
@@ -58,6 +59,8 @@ class PictureArea : public QWidget {
 public:
     using QWidget::QWidget;
     void Set_picture(std::string_view key);
+    // What the picture of a connection calls its members.
+    void Set_names(MemberNames names);
     [[nodiscard]] const std::string& Picture() const { return key_; }
     // What covers the right end of the area, in pixels: pictures stay left of it.
     void Set_covered(int pixels) { covered_ = pixels; }
@@ -69,6 +72,7 @@ protected:
 
 private:
     std::string key_;
+    MemberNames names_{MemberNames::numbers};
     int covered_{};
     bool framed_{true};
 };

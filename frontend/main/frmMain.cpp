@@ -157,6 +157,8 @@ void frmMain::Write_language() {
     } else {
         Norsk(s_, about_, set);
     }
+    controls_.Find<PictureArea>("Pic_forbindelse")
+        .Set_names(Is_english(s_) ? MemberNames::english : MemberNames::norwegian);
     Describe_controls();
     Set_values_off(controls_);
 }

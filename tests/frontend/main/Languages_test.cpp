@@ -1,7 +1,11 @@
 // The two languages: every text that a language procedure writes, the member names by type, and what no procedure
 // touches.
 #include "frontend/dialogs/Frm_tarn_vik_fak_klass.h"
+#include "spacing/sketch/Connection_picture.h"
 #include "tests/support/Window.h"
+
+#include <QImage>
+#include <QPixmap>
 
 namespace tarnvik::test {
 namespace {
@@ -213,6 +217,44 @@ TEST_F(Languages, member_names_of_every_type_in_both_languages) {
         Turn_to("Cmd_eng");
         Expect_members(row.english);
     }
+}
+
+// The words of a picture with as much room as they ask for.
+std::string Words(int Con_type, MemberNames names) {
+    std::string words;
+    const auto drawing = Draw_connection(std::to_string(Con_type) + ".1", 800.0, 500.0, names);
+    for (const auto& shape : drawing->shapes) {
+        if (const auto* text = std::get_if<TextShape>(&shape)) {
+            words += text->text + ";";
+        }
+    }
+    return words;
+}
+
+TEST_F(Languages, the_picture_of_the_connection_has_the_member_names_of_the_window) {
+    const auto trimmed = [](std::string text) {
+        while (text.ends_with(' ')) {
+            text.pop_back();
+        }
+        return text;
+    };
+    for (const Members& row : members) {
+        EXPECT_EQ(Words(row.Con_type, MemberNames::english),
+                  "1 " + trimmed(row.english[0]) + ";2 " + trimmed(row.english[1]) + ";1;2;");
+        EXPECT_EQ(Words(row.Con_type, MemberNames::norwegian),
+                  "1 " + trimmed(row.norwegian[0]) + ";2 " + trimmed(row.norwegian[1]) + ";1;2;");
+    }
+}
+
+TEST_F(Languages, the_picture_of_the_connection_turns) {
+    Start("Eng");
+    auto& picture = Find<PictureArea>("Pic_forbindelse");
+    const QImage english = picture.grab().toImage();
+    Turn_to("Cmd_nor");
+    const QImage norwegian = picture.grab().toImage();
+    EXPECT_NE(english, norwegian);
+    Turn_to("Cmd_eng");
+    EXPECT_EQ(picture.grab().toImage(), english);
 }
 
 TEST_F(Languages, a_change_of_type_alone_leaves_the_member_names) {

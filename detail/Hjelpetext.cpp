@@ -155,7 +155,9 @@ constexpr std::array splitting{
     Row{0.0,  35.0, "as follows:",                                                                   ""},
     Row{1.2,  2.0,  "he = h- a",                                                                     "he = h - a"},
     Row{0.0,  30.0, "", "", plain, &splitting_figure},
-    Row{7.9,  2.0,  "If the user wants a diffenrent location of the bolts,",                         "Dersom brukeren ønsker en annen plassering av bolter,"},
+    Row{2.5,  2.0,  "Heavy line: loaded edge,",                                                      "Tykk strek: belastet kant,"}, // the program's own
+    Row{1.0,  2.0,  "also in the sketches",                                                          "også i skissene"},            // likewise
+    Row{4.4,  2.0,  "If the user wants a diffenrent location of the bolts,",                         "Dersom brukeren ønsker en annen plassering av bolter,"},
     Row{1.0,  2.0,  "he",                                                                            "kan"},
     Row{0.0,  8.0,  "",                                                                              "he"},
     Row{0.0,  13.0, "",                                                                              "legges inn manuelt."},

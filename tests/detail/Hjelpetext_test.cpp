@@ -239,6 +239,7 @@ TEST(Hjelpetext, effective_number_in_English_speaks_of_bolts_twice) {
 }
 
 // Formula and figure of the splitting window, and the texts that they stand between.
+// Beside the figure stands what its heavy line is.
 void Expect_splitting_pictures(const Painting& painting, std::size_t before_formula, std::size_t beside_figure) {
     ASSERT_EQ(painting.pictures.size(), 2U);
     const PaintedPicture& formula = painting.pictures[0];
@@ -251,7 +252,15 @@ void Expect_splitting_pictures(const Painting& painting, std::size_t before_form
     EXPECT_EQ(figure.key, "Frm_tarn_vik_txt_tverr_brudd/Pic_tverr_brudd_fig");
     EXPECT_EQ(figure.y, painting.texts[beside_figure].y);
     EXPECT_GT(figure.x, painting.texts[beside_figure].x);
-    EXPECT_GT(figure.y - figure.h, painting.texts[beside_figure + 1].y);
+    for (const std::size_t legend : {beside_figure + 1, beside_figure + 2}) {
+        EXPECT_LT(painting.texts[legend].y, figure.y);
+        EXPECT_GT(painting.texts[legend].y, figure.y - figure.h);
+        EXPECT_LT(painting.texts[legend].x, figure.x);
+    }
+    EXPECT_GT(figure.y - figure.h, painting.texts[beside_figure + 3].y);
+    // It moves nothing: the next line stands 7.9 rows below the one that begins the figure's line.
+    const float row = (painting.texts[0].y - painting.texts[1].y) / 1.5F;
+    EXPECT_NEAR(painting.texts[beside_figure].y - painting.texts[beside_figure + 3].y, 7.9F * row, 1e-3F);
 }
 
 TEST(Hjelpetext, splitting_in_Norwegian) {
@@ -274,6 +283,8 @@ TEST(Hjelpetext, splitting_in_Norwegian) {
                      {29, "he"},
                      {34, "som følger:"},
                      {2, "he = h - a"},
+                     {2, "Tykk strek: belastet kant,"},
+                     {2, "også i skissene"},
                      {2, "Dersom brukeren ønsker en annen plassering av bolter,"},
                      {2, "kan"},
                      {8, "he"},
@@ -302,6 +313,8 @@ TEST(Hjelpetext, splitting_in_English) {
                      {31, "he"},
                      {35, "as follows:"},
                      {2, "he = h- a"},
+                     {2, "Heavy line: loaded edge,"},
+                     {2, "also in the sketches"},
                      {2, "If the user wants a diffenrent location of the bolts,"},
                      {2, "he"},
                      {7, "can be defined by manual input."},

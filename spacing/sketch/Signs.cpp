@@ -10,7 +10,7 @@ namespace tarnvik {
 namespace {
 
 constexpr double force_gap = 3.5;        // from the torn end to the arrow
-constexpr double force_letter_gap = 4.0; // from the arrow to its letter
+constexpr double force_letter_gap = 4.5; // from the arrow to its letter
 
 constexpr TextSize angle_letter_size{6.6, 6.4};
 constexpr double letter_to_side = 3.4; // of the corner

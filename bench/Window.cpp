@@ -16,6 +16,7 @@
 #include <vector>
 
 #include "frontend/controls/Controls.h"
+#include "frontend/controls/Scrolling.h"
 #include "frontend/controls/Style.h"
 #include "frontend/main/frmMain.h"
 #include "frontend/painting/Icon.h"
@@ -37,6 +38,9 @@ public:
         std::fprintf(stderr, "unexpected message: %.*s\n", static_cast<int>(text.size()), text.data());
         std::exit(1);
     }
+    void Ask(const tarnvik::Question& question, std::function<void(bool yes)> /*then*/) override {
+        Show_then(question.text, tarnvik::box_plain, {});
+    }
 };
 
 // The window as the program makes it, on the delivered data.
@@ -48,7 +52,8 @@ struct Program {
     tarnvik::test::ScriptedPrinter printer;
     tarnvik::SystemClock clock;
     tarnvik::ConnectionState state;
-    tarnvik::frmMain window{state, {boxes, files, opener, settings, printer, clock}, {TARNVIK_DATA_DIR, TARNVIK_DATA_DIR, {}}};
+    tarnvik::frmMain window{
+        state, {boxes, files, opener, settings, printer, clock}, {TARNVIK_DATA_DIR, TARNVIK_DATA_DIR, {}}};
 };
 
 // Which widgets were painted.
@@ -105,6 +110,9 @@ int Measure_window(QApplication& application) {
     window.Load();
     window.activateWindow();
     Settle();
+    // The screen that stands in for a display is smaller than the window, part of which would not be painted.
+    window.resize(tarnvik::Laid_out_size(window));
+    Settle();
     Find<QAbstractButton>(window, "Opt_bolt_bulldog(1)").setChecked(true);
     auto& number = Find<tarnvik::ListBox>(window, "Comb_ant_bolt");
     number.setCurrentIndex(number.count() - 1); // six bolts
@@ -113,6 +121,7 @@ int Measure_window(QApplication& application) {
     Painted painted;
     application.installEventFilter(&painted);
     auto& box = Find<tarnvik::TextBox>(window, "Txt_last");
+    auto& ground = Find<QWidget>(window, "ground");
     auto& utilisation = Find<QWidget>(window, "Lbl_uf");
     std::vector<double> dirty;
     std::vector<double> whole;
@@ -126,7 +135,7 @@ int Measure_window(QApplication& application) {
         Settle();
         const auto shown = Clock::now();
         const bool seen = painted.widgets.contains(&box) && painted.widgets.contains(&utilisation);
-        window.repaint();
+        ground.repaint();
         const auto all_shown = Clock::now();
         if (box.hasFocus() || !seen) {
             std::fprintf(stderr, "the Tab key was not taken, or its result not painted\n");

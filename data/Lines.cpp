@@ -12,7 +12,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr std::uintmax_t largest = 64U * 1024U * 1024U;
+constexpr std::uintmax_t largest = std::uintmax_t{64} * 1024 * 1024;
 
 [[noreturn]] void Refuse(std::string_view reason, std::string_view where) {
     throw RuntimeFault{fault_path_access, reason, where};

@@ -33,7 +33,7 @@ private:
     };
     void Enqueue(Pending box);
     void Next();
-    void Show_box(const Pending& box);
+    void Show_box(const Pending& pending);
 
     std::deque<Pending> pending_;
     Pending current_{}; // while shown_

@@ -2,7 +2,9 @@
 
 #include <algorithm>
 #include <array>
+#include <charconv>
 #include <string_view>
+#include <system_error>
 
 #include "calc/StateFields.h"
 
@@ -44,6 +46,7 @@ opened and checked.
                      screen,tables,pictures,report,detail,explanations
   --fields A,B,...   only these names of the state; Mat, Prof and Setup show the tables
   --batch            read inputs as JSON Lines from standard input, one result a line
+  --jobs N           check the lines of a batch on N threads; results stay in order
   --save FILE        save the project after the check
   --report FILE.pdf  write the two-page report
   --pictures DIR     write every stored picture, as PNG and SVG, under its key
@@ -114,6 +117,15 @@ void Set_fields(Options& options, const std::string& list) {
     options.json = true;
 }
 
+void Set_jobs(Options& options, const std::string& value) {
+    constexpr int most = 256;
+    const char* const end = value.data() + value.size();
+    const auto [stop, error] = std::from_chars(value.data(), end, options.jobs);
+    if (error != std::errc{} || stop != end || options.jobs < 1 || options.jobs > most) {
+        throw UsageError{"--jobs: expected a whole number from 1 to 256, got \"" + value + "\""};
+    }
+}
+
 // An option, what it expects as its value (null: it takes none) and what it does.
 struct OptionRow {
     std::string_view name;
@@ -130,6 +142,7 @@ constexpr std::array option_rows{
     OptionRow{"--with",     "a list of groups", Add_groups},
     OptionRow{"--fields",   "a list of names",  Set_fields},
     OptionRow{"--batch",    nullptr,            [](Options& o, const std::string&) { o.batch = o.json = true; }},
+    OptionRow{"--jobs",     "a whole number",   Set_jobs},
     OptionRow{"--save",     "a file",           [](Options& o, const std::string& value) { o.save = value; }},
     OptionRow{"--report",   "a file",           [](Options& o, const std::string& value) { o.report = value; }},
     OptionRow{"--pictures", "a folder",         [](Options& o, const std::string& value) { o.pictures = value; }},

@@ -14,6 +14,7 @@ struct Options {
     std::vector<std::pair<std::string, std::string>> set;
     bool json{};
     bool batch{};
+    int jobs{1}; // --jobs: threads of a batch
     bool help{};
     bool version{};
     std::vector<std::string> with;                  // groups

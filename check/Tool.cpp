@@ -6,15 +6,14 @@
 #include <string_view>
 #include <utility>
 
-#include <nlohmann/json.hpp>
-
 #include "calc/RuntimeFault.h"
+#include "check/Batch.h"
 #include "check/Inputs.h"
+#include "check/Recording.h"
 #include "check/Status.h"
 #include "check/Summary.h"
 #include "data/SetupFile.h"
 #include "report/PrintReport.h"
-#include "report/Recorder.h"
 
 namespace tarnvik {
 
@@ -31,7 +30,8 @@ int Tool::Run(const std::filesystem::path& folder) {
         err_ << "tarnvik-check: " << Setup_problem_text(*report.setup, folder, true) << "\n";
     }
     if (options_.batch) {
-        return Batch();
+        Set_all();
+        return Run_batch(options_, *s_, in_, out_, err_);
     }
     if (options_.projects.empty()) {
         Set_all();
@@ -87,7 +87,7 @@ int Tool::One(const std::string& project) {
     const PassResult result = session_.First_pass();
     if (options_.json) {
         std::string json;
-        Append_result(json, options_, project, *s_, session_.Shown(), result, messages_, Recording());
+        Append_result(json, options_, project, *s_, session_.Shown(), result, messages_, Recording(session_, clock_));
         out_ << json << "\n";
     } else {
         out_ << Summary(project, *s_, result, messages_);
@@ -100,18 +100,6 @@ int Tool::One(const std::string& project) {
         status = Worse(status, Save());
     }
     return status;
-}
-
-// The report of the state as it stands, recorded.
-RecordReport Tool::Recording() {
-    return [this] {
-        Recorder recorder;
-        try {
-            session_.Print(recorder, clock_.Now());
-        } catch (const RuntimeFault&) { // NOLINT(bugprone-empty-catch): a print that fails ends where it fails
-        }
-        return std::move(recorder.calls);
-    };
 }
 
 int Tool::Write_report(const PassResult& result) {
@@ -138,72 +126,6 @@ int Tool::Save() {
         return exit_usage;
     }
     return exit_holds;
-}
-
-// ---------------------------------------------------------------------------------------------------------------------
-// Batch
-
-using Json = nlohmann::ordered_json;
-
-int Tool::Batch() {
-    Set_all();
-    const ConnectionValues fresh = *s_;
-    int status = exit_holds;
-    std::string line;
-    std::string json;
-    for (long number = 1; out_ && std::getline(in_, line); ++number) {
-        static_cast<ConnectionValues&>(*s_) = fresh; // the tables never change in a batch
-        session_.Shown() = {};
-        json.clear();
-        status = Worse(status, Line(line, number, json));
-        json += '\n';
-        out_ << json;
-        if (in_.rdbuf()->in_avail() <= 0) { // a caller that waits for each answer gets it
-            out_.flush();
-        }
-    }
-    return status;
-}
-
-int Tool::Line(const std::string& line, long number, std::string& json) {
-    try {
-        const PassResult result = Calculate_line(Json::parse(line));
-        Append_result(json, options_, {}, *s_, session_.Shown(), result, messages_, Recording());
-        return Status(*s_, result);
-    } catch (const UsageError& error) {
-        return Bad_line(json, number, error.text);
-    } catch (const Json::exception& error) {
-        return Bad_line(json, number, std::string{"expected JSON: "} + error.what());
-    }
-}
-
-// An object of inputs, or several that are applied one after the other; the result is that of the last.
-PassResult Tool::Calculate_line(const Json& inputs) {
-    if (!inputs.is_array()) {
-        return Calculate(inputs);
-    }
-    if (inputs.empty()) {
-        throw UsageError{"expected at least one object of inputs, got []"};
-    }
-    PassResult result;
-    for (const Json& object : inputs) {
-        result = Calculate(object);
-    }
-    return result;
-}
-
-PassResult Tool::Calculate(const Json& inputs) {
-    messages_.messages.clear();
-    Set_inputs(*s_, inputs);
-    return session_.First_pass(options_.with.empty() ? Session::Showing::nothing : Session::Showing::screen);
-}
-
-int Tool::Bad_line(std::string& json, long number, const std::string& error) {
-    json = "{\"line\":" + std::to_string(number) + ",\"error\":";
-    Append_json(json, error);
-    json += '}';
-    err_ << "tarnvik-check: line " << number << ": " << error << "\n";
-    return exit_usage;
 }
 
 } // namespace tarnvik

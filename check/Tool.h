@@ -6,11 +6,8 @@
 #include <memory>
 #include <string>
 
-#include <nlohmann/json_fwd.hpp>
-
 #include "calc/GlobalParameter.h"
 #include "calc/pass/Main_beregn.h"
-#include "check/Json.h"
 #include "check/MessageLog.h"
 #include "check/Options.h"
 #include "ports/Rendering.h"
@@ -37,13 +34,6 @@ private:
     int One(const std::string& project);
     int Write_report(const PassResult& result);
     int Save();
-    RecordReport Recording();
-
-    int Batch();
-    int Line(const std::string& line, long number, std::string& json);
-    PassResult Calculate_line(const nlohmann::ordered_json& inputs);
-    PassResult Calculate(const nlohmann::ordered_json& inputs);
-    int Bad_line(std::string& json, long number, const std::string& error);
 
     Options options_;
     std::istream& in_;

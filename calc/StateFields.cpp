@@ -1,5 +1,6 @@
 #include "calc/StateFields.h"
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>
@@ -186,12 +187,15 @@ constexpr std::size_t slot_count = 512;
 constexpr std::uint8_t no_row = 255;
 static_assert(state_fields.size() < no_row);
 
+// Names differ in their first letters, their last ones or their length.
 constexpr std::size_t Slot_of(std::string_view name) {
-    std::uint32_t hash = 2166136261U;
-    for (const char c : name) {
-        hash = (hash ^ static_cast<unsigned char>(c)) * 16777619U;
+    std::size_t hash = name.size();
+    const std::size_t first = std::min<std::size_t>(name.size(), 3);
+    for (std::size_t i = 0; i < first; ++i) {
+        hash = hash * 31 + static_cast<unsigned char>(name[i]);
+        hash = hash * 31 + static_cast<unsigned char>(name[name.size() - 1 - i]);
     }
-    return (hash >> 16U ^ hash) % slot_count;
+    return hash % slot_count;
 }
 
 constexpr std::array<std::uint8_t, slot_count> slots = [] {

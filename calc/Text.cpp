@@ -275,7 +275,15 @@ ShortText Format(float value, std::string_view picture) {
 
 ShortText Shortest(float value) {
     std::array<char, 32> buffer{};
-    const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value).ptr;
+    char* const room = buffer.data() + buffer.size();
+    char* end = nullptr;
+    // From 100000 on an exponent may be shorter.
+    const int whole = std::fabs(value) < 1e5F ? static_cast<int>(value) : 0;
+    if (whole != 0 && static_cast<float>(whole) == value) {
+        end = std::to_chars(buffer.data(), room, whole).ptr;
+    } else {
+        end = std::to_chars(buffer.data(), room, value).ptr;
+    }
     ShortText text;
     text.Append(std::string_view{buffer.data(), static_cast<std::size_t>(end - buffer.data())});
     return text;

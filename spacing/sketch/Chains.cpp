@@ -9,7 +9,7 @@ namespace tarnvik {
 namespace {
 
 constexpr double chain_gap = 10.0; // from the last fastener or the edge to a dimension line
-constexpr double member_gap = 5.0; // from the other member
+constexpr double member_gap = 7.0; // from the other member
 constexpr double bolt_gap = 1.0;   // from a fastener to its extension
 constexpr double edge_gap = 2.0;   // from an edge or an end to its extension
 constexpr double beside = 12.0;    // so near to dimensions a corner of the other member counts

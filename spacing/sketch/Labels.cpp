@@ -13,6 +13,7 @@ namespace {
 constexpr double shift_step = 0.5;
 constexpr double beside = 3.5;            // so far from the middle a label still stands beside its dimension
 constexpr double past_end = 3.5;          // from the end of an outermost dimension to a label beyond it
+constexpr double over = 3.0;              // so far a label may reach over the end of its dimension
 constexpr double label_to_own_line = 0.7; // its own extensions end just before it
 
 // How far a label may be shifted along its dimension.
@@ -25,7 +26,7 @@ Shifts Shifts_of(const Chain& chain, std::size_t i, bool past_ends) {
     const Point d = dimension.line.b - dimension.line.a;
     const double length = Length(d);
     const double label = Span(Size_of(dimension.label, false), (1.0 / length) * d);
-    const double inside = std::max(beside, (length - label) / 2.0 + 2.0);
+    const double inside = std::max(beside, (length - label) / 2.0 + over);
     const double outside = past_ends ? (length + label) / 2.0 + past_end : inside;
     return {i == 0 ? outside : inside, i + 1 == chain.dimensions.size() ? outside : inside};
 }
@@ -101,7 +102,7 @@ std::array<std::vector<std::size_t>, 3> Orders(std::size_t count) {
 
 bool Fit(Chain& chain, const Occupied& occupied, bool past_ends) {
     for (const Dimension& dimension : chain.dimensions) {
-        if (!occupied.Takes_line(dimension.line)) {
+        if (!occupied.Takes_dimension(dimension.line)) {
             return false;
         }
     }

@@ -104,14 +104,14 @@ void Painter::Paint_lines(const std::vector<Point>& points, Pen pen) {
 }
 
 void Painter::Paint_arrow_head(Point tip, Point direction, double length) {
-    constexpr double half_width = 0.32; // of its length
     const Point side{-direction.y, direction.x};
     const Point back = tip - length * direction;
-    drawing_.shapes.emplace_back(PolygonShape{{sheet_.Place(tip), sheet_.Place(back + (half_width * length) * side),
-                                               sheet_.Place(back - (half_width * length) * side)},
-                                              Tone::black,
-                                              Pen::none,
-                                              true});
+    drawing_.shapes.emplace_back(
+        PolygonShape{{sheet_.Place(tip), sheet_.Place(back + (head_half_width * length) * side),
+                      sheet_.Place(back - (head_half_width * length) * side)},
+                     Tone::black,
+                     Pen::none,
+                     true});
 }
 
 void Painter::Paint_text(Point at, std::string_view text, bool bold) {
@@ -119,12 +119,11 @@ void Painter::Paint_text(Point at, std::string_view text, bool bold) {
 }
 
 void Painter::Paint_dimension(const Dimension& dimension) {
-    constexpr double head = 4.6;
     const Point d = dimension.line.b - dimension.line.a;
     const Point direction = (1.0 / Length(d)) * d;
     Paint_line(dimension.line, Pen::dimension);
-    Paint_arrow_head(dimension.line.a, -1.0 * direction, head);
-    Paint_arrow_head(dimension.line.b, direction, head);
+    Paint_arrow_head(dimension.line.a, -1.0 * direction, arrowhead);
+    Paint_arrow_head(dimension.line.b, direction, arrowhead);
     Paint_text(dimension.label_at, dimension.label, false);
 }
 

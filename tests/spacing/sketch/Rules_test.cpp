@@ -211,6 +211,47 @@ TEST(Rules, lines_of_different_chains_keep_apart) {
     });
 }
 
+TEST(Rules, an_arrowhead_keeps_clear_of_every_edge_but_its_own) {
+    constexpr double head = 4.6; // long, and
+    constexpr double half_width = 1.5;
+    For_all([](const Measured& sketch) {
+        for (const Chain& chain : sketch.all.chains) {
+            for (const Dimension& dimension : chain.dimensions) {
+                const Point d =
+                    (1.0 / Length(dimension.line.b - dimension.line.a)) * (dimension.line.b - dimension.line.a);
+                for (const Segment& tip : {Segment{dimension.line.a, dimension.line.a + head * d},
+                                           Segment{dimension.line.b, dimension.line.b - head * d}}) {
+                    for (const Edge& edge : sketch.edges) {
+                        const bool own =
+                            Gap(tip.a, edge.line) < 1e-6 && std::fabs(Dot(edge.line.b - edge.line.a, d)) < 1e-6;
+                        EXPECT_TRUE(own || Gap(tip, edge.line) >= edge.half_pen + half_width + 1.0)
+                            << "an arrowhead of " << dimension.label << " stands on an edge";
+                    }
+                }
+            }
+        }
+    });
+}
+
+TEST(Rules, no_dimension_crosses_the_loaded_edge) {
+    For_all([](const Measured& sketch) {
+        for (const Edge& edge : sketch.edges) {
+            if (edge.half_pen < thick / 2.0) {
+                continue;
+            }
+            for (const Chain& chain : sketch.all.chains) {
+                for (const Dimension& dimension : chain.dimensions) {
+                    const Point d =
+                        (1.0 / Length(dimension.line.b - dimension.line.a)) * (dimension.line.b - dimension.line.a);
+                    EXPECT_TRUE(std::fabs(Dot(edge.line.b - edge.line.a, d)) < 1e-6 ||
+                                Gap(dimension.line, edge.line) > 0.0)
+                        << dimension.label << " crosses the loaded edge";
+                }
+            }
+        }
+    });
+}
+
 TEST(Rules, the_force_stands_outside_the_torn_end_of_its_member_on_its_axis) {
     For_all([](const Measured& sketch) {
         const Segment& arrow = sketch.all.force.arrow;

@@ -133,6 +133,7 @@ Chain Chain_across(const Joint& joint, std::size_t member, const Place& place, M
     const bool outside = place.behind && !own.through; // beyond the end the edges need a line as well
     Chain chain;
     chain.across = true;
+    chain.on_wood = !outside;
     chain.outward = away * own.u;
     const auto last = static_cast<std::size_t>(listed.across);
     for (std::size_t i = 0; i <= last; ++i) {

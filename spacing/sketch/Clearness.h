@@ -24,7 +24,7 @@ inline constexpr double head_half_width = 0.32;
 // Pixels.
 inline constexpr double label_to_edge = 1.0; // from its rim, as everywhere
 inline constexpr double label_to_line = 1.2;
-inline constexpr double label_above_label = 1.4;
+inline constexpr double label_above_label = 1.0;
 inline constexpr double label_beside_label = 3.6;                // more, as words run on from left to right
 inline constexpr double label_to_fastener = 2.0;                 // from its rim
 inline constexpr double line_to_line = 6.0;                      // between dimensions, and from them to the force

@@ -16,7 +16,7 @@ struct Force {
     Point letter_at;
     Rect letter_room;
 };
-inline constexpr double force_length = 26.0;
+inline constexpr double force_length = 22.0;
 inline constexpr std::string_view force_letter = "P"; // bold
 
 // The arc of the angle in the corner between an edge of each member.

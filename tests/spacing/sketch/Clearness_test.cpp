@@ -32,8 +32,8 @@ TEST(Clearness, a_label_keeps_off_fasteners_labels_and_lines) {
     occupied.Add_label(Label(100.0, 80.0));
     EXPECT_FALSE(occupied.Takes_label(Label(100.0 + 12.4 + 3.5, 80.0)));
     EXPECT_TRUE(occupied.Takes_label(Label(100.0 + 12.4 + 3.7, 80.0)));
-    EXPECT_FALSE(occupied.Takes_label(Label(100.0, 80.0 + 8.4 + 1.3)));
-    EXPECT_TRUE(occupied.Takes_label(Label(100.0, 80.0 + 8.4 + 1.5)));
+    EXPECT_FALSE(occupied.Takes_label(Label(100.0, 80.0 + 8.4 + 0.9)));
+    EXPECT_TRUE(occupied.Takes_label(Label(100.0, 80.0 + 8.4 + 1.1)));
     for (const bool extension : {false, true}) {
         Occupied lined{joint};
         const Segment line{{80.0, 100.0}, {120.0, 100.0}};

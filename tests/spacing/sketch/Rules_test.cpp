@@ -172,6 +172,26 @@ TEST(Rules, a_label_stands_nearest_to_its_own_dimension) {
     });
 }
 
+TEST(Rules, a_label_stands_beside_its_dimension_and_on_the_same_wood) {
+    For_all([](const Measured& sketch) {
+        for (const Chain& chain : sketch.all.chains) {
+            const Member& member = sketch.all.joint.members[chain.dimensions.front().label[0] == 'a' ? 0 : 1];
+            for (const Dimension& dimension : chain.dimensions) {
+                const Rect ink = Ink(dimension.label_at, 12.3, capital_height);
+                EXPECT_TRUE(Touches(dimension.line, ink.Grown(10.0)))
+                    << dimension.label << " stands far from its dimension";
+                if (!On_wood(member, 0.5 * (dimension.line.a + dimension.line.b))) {
+                    continue;
+                }
+                for (const Point& corner : {Point{ink.left, ink.low}, Point{ink.right, ink.low},
+                                            Point{ink.left, ink.high}, Point{ink.right, ink.high}}) {
+                    EXPECT_TRUE(On_wood(member, corner)) << dimension.label << " stands outside its member";
+                }
+            }
+        }
+    });
+}
+
 TEST(Rules, an_extension_line_passes_other_bolts_by_three_radii) {
     For_all([](const Measured& sketch) {
         for (const Chain& chain : sketch.all.chains) {

@@ -85,8 +85,7 @@ bool Occupied::Takes_extension(const Segment& extension) const {
            });
 }
 
-bool Occupied::Takes_grain(const Segment& line, double half_width) const {
-    const double gap = half_width + grain_to_anything;
+bool Occupied::Takes_sign(const Segment& line, double gap) const {
     for (const std::vector<Segment>* others : {&edges_, &loaded_edges_, &lines_, &extensions_}) {
         for (const Segment& other : *others) {
             if (Nearer(line, other, gap)) {

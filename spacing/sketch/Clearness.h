@@ -10,7 +10,8 @@
 // little
 //   along it, an outermost one also past its end.
 // - The force stands on the axis of its member, outside its torn end; its letter on one side, the other, or beyond it.
-// - The angle stands in the corner between the members, the grain in the wood just outside the joint.
+// - The angle stands in the corner between the members, the grain on the axis of a member just outside the
+//   joint, off all else by its own height.
 #pragma once
 
 #include "spacing/sketch/Joint.h"
@@ -32,7 +33,8 @@ inline constexpr double head_to_edge = 1.2;                      // from its sid
 inline constexpr double line_to_fastener = 4.0;                  // from its rim
 inline constexpr double extension_to_fastener = 3 * bolt_radius; // from its centre
 inline constexpr double extension_to_line = 2.0;
-inline constexpr double grain_to_anything = 3.0;
+inline constexpr double force_to_anything = 3.0;
+inline constexpr double grain_to_anything = 4.0; // the height of the mark
 
 // The room of a label with what keeps others off.
 Rect Apart(const Rect& label);
@@ -55,8 +57,8 @@ public:
     // A dimension, whose heads keep off every edge but those that it measures, and which crosses no loaded one.
     [[nodiscard]] bool Takes_dimension(const Segment& line) const;
     [[nodiscard]] bool Takes_extension(const Segment& extension) const;
-    // Something fine, so wide at either side of a line.
-    [[nodiscard]] bool Takes_grain(const Segment& line, double half_width) const;
+    // A sign of so much room at either side of a line.
+    [[nodiscard]] bool Takes_sign(const Segment& line, double gap) const;
 
 private:
     const std::vector<Point>& fasteners_;

@@ -1,6 +1,7 @@
 #include "spacing/sketch/Composition.h"
 
 #include <algorithm>
+#include <cmath>
 #include <span>
 #include <utility>
 
@@ -89,6 +90,23 @@ void Include_dimensions(Reach& reach, const Member& member, const std::vector<Ch
     }
 }
 
+// As far as the dimensions across a member stand on its wood.
+Reach Column_of(const Joint& joint, std::size_t k, const std::vector<Chain>& chains) {
+    const Member& member = joint.members[k];
+    Reach column{0.0, 0.0};
+    for (const Chain& chain : chains) {
+        const bool own = chain.on_wood && std::fabs(Dot(chain.outward, member.u)) > 1.0 - 1e-9;
+        for (std::size_t i = 0; own && i < chain.dimensions.size(); ++i) {
+            const Rect& room = chain.dimensions[i].label_room;
+            const TextSize size{room.right - room.left, room.high - room.low};
+            const double u = Dot(chain.dimensions[i].label_at, member.u);
+            column.far = std::max(column.far, u + Span(size, member.u) / 2.0);
+            column.near = std::max(column.near, -u + Span(size, member.u) / 2.0);
+        }
+    }
+    return column;
+}
+
 // Tears a member where it has been seen far enough.
 void Tear(Member& member, const Reach& reach) {
     member.far_u = reach.far;
@@ -102,7 +120,7 @@ bool Add_grain(Composition& all, Occupied& occupied, std::array<Reach, 2>& reach
     bool clear = true;
     for (std::size_t k = 0; k < reaches.size(); ++k) {
         Include_dimensions(reaches[k], all.joint.members[k], all.chains);
-        all.grains[k] = Place_grain(all.joint, k, occupied, reaches[k]);
+        all.grains[k] = Place_grain(all.joint, k, occupied, Column_of(all.joint, k, all.chains), reaches[k]);
         Tear(all.joint.members[k], reaches[k]);
         clear = clear && all.grains[k];
     }

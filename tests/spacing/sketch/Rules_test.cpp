@@ -372,19 +372,27 @@ TEST(Rules, every_member_shows_its_grain_on_clear_wood) {
             const Member& member = sketch.all.joint.members[k];
             const Member& other = sketch.all.joint.members[1 - k];
             ASSERT_TRUE(sketch.all.grains[k]) << "no grain in member " << k + 1;
+            const Grain& grain = *sketch.all.grains[k];
+            const double height = std::fabs(Dot(grain.front().a - grain.back().a, member.m)) - 1e-6;
             for (const Segment& stroke : *sketch.all.grains[k]) {
                 EXPECT_NEAR(Dot(stroke.b - stroke.a, member.m), 0.0, 1e-9) << "across the grain";
                 EXPECT_TRUE(On_wood(member, stroke.a) && On_wood(member, stroke.b));
                 EXPECT_FALSE(On_wood(other, stroke.a) || On_wood(other, stroke.b)) << "grain of a covered part";
+                for (const Edge& edge : sketch.edges) {
+                    EXPECT_GE(Gap(stroke, edge.line), height) << "grain beside an edge";
+                }
                 for (const Label& label : sketch.labels) {
-                    EXPECT_FALSE(Touches(stroke, label.ink.Grown(2.0))) << "grain behind " << label.text;
+                    EXPECT_FALSE(Touches(stroke, label.ink.Grown(height))) << "grain behind " << label.text;
                 }
                 for (const Chain& chain : sketch.all.chains) {
                     for (const Segment& extension : chain.extensions) {
-                        EXPECT_GE(Gap(stroke, extension), 2.0) << "grain on an extension line";
+                        EXPECT_GE(Gap(stroke, extension), height) << "grain on an extension line";
                     }
                     for (const Dimension& dimension : chain.dimensions) {
-                        EXPECT_GE(Gap(stroke, dimension.line), 2.0) << "grain on " << dimension.label;
+                        const bool squeezed = chain.on_wood && std::fabs(Dot(chain.outward, member.u)) > 0.999 &&
+                                              std::fabs(Dot(dimension.label_at - stroke.a, member.u)) < height;
+                        EXPECT_FALSE(squeezed) << "grain within the column of " << dimension.label;
+                        EXPECT_GE(Gap(stroke, dimension.line), height) << "grain on " << dimension.label;
                     }
                 }
             }

@@ -102,6 +102,19 @@ Along Measured_along(const Joint& joint, const Member& member, double side, int 
     return along;
 }
 
+// From where the line beyond a member's end is extended, across it on that side: from its corner, or from that of the
+// other one where the end is flush with an edge of it, which is its own line up to there.
+double Extended_from(const Joint& joint, std::size_t k, double side) {
+    const Member& own = joint.members[k];
+    const Member& other = joint.members[1 - k];
+    double from = side > 0.0 ? own.First_edge() : -own.Other_edge();
+    const double end = Dot(own.At(own.end_u, own.Axis()), other.m);
+    if (!joint.oblique && !other.through && (Same(end, other.First_edge()) || Same(end, other.Other_edge()))) {
+        from = std::max(from, side * Dot(other.At(other.end_u, 0.0), own.m));
+    }
+    return side * (from + edge_gap);
+}
+
 } // namespace
 
 double Reach_over(const Member& member, const Member& other, double away) {
@@ -192,7 +205,7 @@ std::optional<Chain> Chain_along(const Joint& joint, std::size_t member, const P
         if (spacings == 0 || !Same(last_u, Dot(along.row.back(), own.u))) {
             from_fastener(along.last);
         }
-        extend(own.end_u, (place.first ? own.First_edge() : own.Other_edge()) + side * edge_gap);
+        extend(own.end_u, Extended_from(joint, member, side));
         chain.dimensions.push_back(Make_dimension(distance, {tick(last_u), tick(own.end_u)}, chain.outward));
         chain.dimensions.back().loaded = own.end_loaded;
     }

@@ -81,6 +81,14 @@ void Painter::Paint_hidden_edges(const Member& behind, const Member& front) {
     if (!behind.through) {
         paint(behind.End(), false);
     }
+    // A loaded edge is as heavy as elsewhere where the other member ends flush with it.
+    for (const auto& [edge, loaded] :
+         {std::pair{behind.First(), behind.first_edge_loaded}, std::pair{behind.Other(), behind.other_edge_loaded}}) {
+        constexpr double exact = 1e-6;
+        if (loaded && !front.through && Nearer(front.End().a, edge, exact) && Nearer(front.End().b, edge, exact)) {
+            Paint_line(front.End(), Pen::loaded);
+        }
+    }
 }
 
 void Painter::Paint_bolt(Point at, double radius) {

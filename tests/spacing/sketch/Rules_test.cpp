@@ -7,11 +7,13 @@
 #include <cmath>
 #include <functional>
 #include <string>
+#include <variant>
 #include <vector>
 
 #include "spacing/Catalogue.h"
 #include "spacing/sketch/Choice.h"
 #include "spacing/sketch/Sheet.h"
+#include "spacing/sketch/Sketch.h"
 
 namespace tarnvik {
 namespace {
@@ -270,6 +272,52 @@ TEST(Rules, no_dimension_crosses_the_loaded_edge) {
             }
         }
     });
+}
+
+TEST(Rules, no_extension_line_lies_on_an_edge) {
+    For_all([](const Measured& sketch) {
+        for (const Chain& chain : sketch.all.chains) {
+            for (const Segment& extension : chain.extensions) {
+                for (const Edge& edge : sketch.edges) {
+                    const Point middle = 0.5 * (extension.a + extension.b);
+                    EXPECT_FALSE(Gap(extension.a, edge.line) < 0.5 && Gap(middle, edge.line) < 0.5)
+                        << "an extension line of " << chain.dimensions.front().label << " runs along an edge";
+                }
+            }
+        }
+    });
+}
+
+TEST(Rules, the_loaded_edge_is_heavy_where_a_member_ends_flush_with_it) {
+    int flush = 0;
+    for (int row = 0; row < case_count; ++row) {
+        for (const bool compression : {false, true}) {
+            for (const Room& room : rooms) {
+                const Composition all = Choose(row, compression, room.width, room.height).all;
+                const Member& beam = all.joint.members[0];
+                const Segment edge = beam.first_edge_loaded ? beam.First() : beam.Other();
+                const Segment end = all.joint.members[1].End();
+                if (beam.first_edge_loaded == beam.other_edge_loaded || Gap(end.a, edge) > 1e-6 ||
+                    Gap(end.b, edge) > 1e-6) {
+                    continue;
+                }
+                ++flush;
+                const Point at = Centred(all.bounds, room.width, room.height).Place(0.5 * (end.a + end.b));
+                Pen topmost = Pen::none;
+                for (const auto& shape : Draw_sketch(row, compression, room.width, room.height).drawing.shapes) {
+                    const auto* line = std::get_if<PolygonShape>(&shape);
+                    if (line != nullptr && line->corners.size() == 2 &&
+                        std::fabs(line->corners[0].y - line->corners[1].y) < 1e-6 &&
+                        Gap(at, {line->corners[0], line->corners[1]}) < 1e-6) {
+                        topmost = line->pen;
+                    }
+                }
+                EXPECT_EQ(topmost, Pen::loaded) << case_table[static_cast<std::size_t>(row)].Case_code
+                                                << " has its loaded edge overdrawn: " << room.name;
+            }
+        }
+    }
+    EXPECT_EQ(flush, 2 * 16); // types 4 and 5 in compression
 }
 
 TEST(Rules, the_force_stands_outside_the_torn_end_of_its_member_on_its_axis) {

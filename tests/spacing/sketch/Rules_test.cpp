@@ -274,6 +274,22 @@ TEST(Rules, no_dimension_crosses_the_loaded_edge) {
     });
 }
 
+TEST(Rules, an_extension_line_passes_corners_that_are_not_its_own) {
+    For_all([](const Measured& sketch) {
+        for (const Chain& chain : sketch.all.chains) {
+            for (const Segment& extension : chain.extensions) {
+                for (const Member& member : sketch.all.joint.members) {
+                    for (const Point& corner : {member.End().a, member.End().b}) {
+                        EXPECT_TRUE(member.through || Length(corner - extension.a) < 2.5 ||
+                                    Gap(corner, extension) >= 2.0)
+                            << "an extension line of " << chain.dimensions.front().label << " grazes a corner";
+                    }
+                }
+            }
+        }
+    });
+}
+
 TEST(Rules, no_extension_line_lies_on_an_edge) {
     For_all([](const Measured& sketch) {
         for (const Chain& chain : sketch.all.chains) {

@@ -51,11 +51,11 @@ void Frame::paintEvent(QPaintEvent* event) {
     if (!title().isEmpty()) {
         const SetText set = Set_text(title(), font(), title_room.size());
         const double gap = Scaled(2, logicalDpiX());
-        QPainterPath outside;
+        QPainterPath outside; // all but the title: a point in both is out
         outside.addRect(QRectF{rect()});
-        QPainterPath hole;
-        hole.addRect(QRectF{title_room.left() - gap, 0.0, set.width * set.narrowing + 2.0 * gap, title_room.height()});
-        painter.setClipPath(outside - hole);
+        outside.addRect(
+            QRectF{title_room.left() - gap, 0.0, set.width * set.narrowing + 2.0 * gap, title_room.height()});
+        painter.setClipPath(outside);
     }
     painter.drawRoundedRect(QRectF{0.5, top, width() - 1.0, height() - top - 0.5}, radius, radius);
     painter.setClipping(false);

@@ -14,6 +14,9 @@ constexpr std::array<std::string_view, 6> groups{"screen", "tables", "pictures",
 // The tables behind the state, shown when they are asked for by name.
 constexpr std::array<std::string_view, 3> tables{"Mat", "Prof", "Setup"};
 
+// The group of the verdict, which --fields leaves out unless it names it.
+constexpr std::string_view checks_group = "checks";
+
 std::vector<std::string> Split_list(const std::string& list) {
     std::vector<std::string> parts;
     std::size_t start = 0;
@@ -42,7 +45,9 @@ opened and checked.
   --json             one JSON object a line instead of the readable summary
   --with GROUPS      more in the JSON, separated by commas:
                      screen,tables,pictures,report,detail,explanations
-  --fields A,B,...   only these names of the state; Mat, Prof and Setup show the tables
+  --fields A,B,...   only these names of the state; Mat, Prof and Setup show the tables,
+                     checks the verdict
+  --strict           fail also where distances do not fit or a check was not made
   --batch            read inputs as JSON Lines from standard input, one result a line
   --save FILE        save the project after the check
   --report FILE.pdf  write the two-page report
@@ -70,8 +75,9 @@ Inputs (NAME): flags take true or false, the others a number or a text.
     text += line + R"(
 
 Exit status: 0 all calculated and no utilisation above 1.0; 1 all calculated, some
-utilisation above 1.0; 2 wrong usage or unreadable input; 3 a check was stopped or its
-arithmetic failed.
+utilisation above 1.0, or with --strict something that does not fit or was not
+checked; 2 wrong usage or unreadable input; 3 a check was stopped or its arithmetic
+failed.
 )";
     return text;
 }
@@ -106,6 +112,7 @@ void Add_groups(Options& options, const std::string& list) {
 
 void Set_fields(Options& options, const std::string& list) {
     options.fields = Split_list(list);
+    options.checks = std::erase(*options.fields, checks_group) > 0;
     for (const std::string& field : *options.fields) {
         if (Find_state_field(field) == nullptr && std::find(tables.begin(), tables.end(), field) == tables.end()) {
             throw UsageError{"--fields: \"" + field + "\" is no name of the state"};
@@ -130,6 +137,7 @@ constexpr std::array option_rows{
     OptionRow{"--with",     "a list of groups", Add_groups},
     OptionRow{"--fields",   "a list of names",  Set_fields},
     OptionRow{"--batch",    nullptr,            [](Options& o, const std::string&) { o.batch = o.json = true; }},
+    OptionRow{"--strict",   nullptr,            [](Options& o, const std::string&) { o.strict = true; }},
     OptionRow{"--save",     "a file",           [](Options& o, const std::string& value) { o.save = value; }},
     OptionRow{"--report",   "a file",           [](Options& o, const std::string& value) { o.report = value; }},
     OptionRow{"--pictures", "a folder",         [](Options& o, const std::string& value) { o.pictures = value; }},

@@ -14,10 +14,12 @@ struct Options {
     std::vector<std::pair<std::string, std::string>> set;
     bool json{};
     bool batch{};
+    bool strict{};
     bool help{};
     bool version{};
     std::vector<std::string> with;                  // groups
     std::optional<std::vector<std::string>> fields; // names of the state
+    bool checks{true};                              // the group `checks`: with --fields where it is asked for
     std::optional<std::string> save;
     std::optional<std::string> report;   // --report: the PDF file
     std::optional<std::string> pictures; // --pictures: the folder

@@ -84,15 +84,22 @@ int Tool::Project(const std::string& path) {
 // A pass, its result and what was asked to be written.
 int Tool::One(const std::string& project) {
     messages_.messages.clear();
+    judge_.Begin();
     const PassResult result = session_.First_pass();
+    judge_.After_pass(*s_, result, true);
+    const Judgement judgement = judge_.Judge_results(*s_);
     if (options_.json) {
         std::string json;
-        Append_result(json, options_, project, *s_, session_.Shown(), result, messages_, Recording());
+        Append_result(json, options_, project, *s_, session_.Shown(), result, messages_, Recording(),
+                      options_.checks ? &judgement : nullptr);
         out_ << json << "\n";
     } else {
-        out_ << Summary(project, *s_, result, messages_);
+        out_ << Summary(project, *s_, result, messages_) << Checks_summary(judgement);
     }
     int status = Status(*s_, result);
+    if (options_.strict) {
+        status = Strict_status(status, judgement);
+    }
     if (options_.report) {
         status = Worse(status, Write_report(result));
     }
@@ -168,8 +175,14 @@ int Tool::Batch() {
 int Tool::Line(const std::string& line, long number, std::string& json) {
     try {
         const PassResult result = Calculate_line(Json::parse(line));
-        Append_result(json, options_, {}, *s_, session_.Shown(), result, messages_, Recording());
-        return Status(*s_, result);
+        std::optional<Judgement> judgement;
+        if (options_.checks || options_.strict) {
+            judgement = judge_.Judge_results(*s_);
+        }
+        Append_result(json, options_, {}, *s_, session_.Shown(), result, messages_, Recording(),
+                      options_.checks ? &*judgement : nullptr);
+        const int status = Status(*s_, result);
+        return options_.strict ? Strict_status(status, *judgement) : status;
     } catch (const UsageError& error) {
         return Bad_line(json, number, error.text);
     } catch (const Json::exception& error) {
@@ -179,23 +192,27 @@ int Tool::Line(const std::string& line, long number, std::string& json) {
 
 // An object of inputs, or several that are applied one after the other; the result is that of the last.
 PassResult Tool::Calculate_line(const Json& inputs) {
+    judge_.Begin();
     if (!inputs.is_array()) {
-        return Calculate(inputs);
+        return Calculate(inputs, true);
     }
     if (inputs.empty()) {
         throw UsageError{"expected at least one object of inputs, got []"};
     }
     PassResult result;
     for (const Json& object : inputs) {
-        result = Calculate(object);
+        result = Calculate(object, &object == &inputs.front());
     }
     return result;
 }
 
-PassResult Tool::Calculate(const Json& inputs) {
+PassResult Tool::Calculate(const Json& inputs, bool first) {
     messages_.messages.clear();
     Set_inputs(*s_, inputs);
-    return session_.First_pass(options_.with.empty() ? Session::Showing::nothing : Session::Showing::screen);
+    const PassResult result =
+        session_.First_pass(options_.with.empty() ? Session::Showing::nothing : Session::Showing::screen);
+    judge_.After_pass(*s_, result, first || inputs.contains("man_he") || inputs.contains("Man_he_on"));
+    return result;
 }
 
 int Tool::Bad_line(std::string& json, long number, const std::string& error) {

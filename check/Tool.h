@@ -10,6 +10,7 @@
 
 #include "calc/GlobalParameter.h"
 #include "calc/pass/Main_beregn.h"
+#include "check/Checks.h"
 #include "check/Json.h"
 #include "check/MessageLog.h"
 #include "check/Options.h"
@@ -42,7 +43,7 @@ private:
     int Batch();
     int Line(const std::string& line, long number, std::string& json);
     PassResult Calculate_line(const nlohmann::ordered_json& inputs);
-    PassResult Calculate(const nlohmann::ordered_json& inputs);
+    PassResult Calculate(const nlohmann::ordered_json& inputs, bool first);
     int Bad_line(std::string& json, long number, const std::string& error);
 
     Options options_;
@@ -55,6 +56,7 @@ private:
     std::unique_ptr<ConnectionState> start_ = std::make_unique<ConnectionState>();
     std::unique_ptr<ConnectionState> s_ = std::make_unique<ConnectionState>();
     Session session_{*s_, *this};
+    Judge judge_{session_.Results()};
 };
 
 } // namespace tarnvik

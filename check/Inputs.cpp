@@ -8,6 +8,8 @@
 #include <nlohmann/json.hpp>
 
 #include "calc/StateFields.h"
+#include "check/Named_inputs.h"
+#include "check/Nearest.h"
 #include "check/Options.h"
 
 namespace tarnvik {
@@ -21,10 +23,6 @@ template <class... F> Overloaded(F...) -> Overloaded<F...>;
 
 [[noreturn]] void Refuse(const std::string& name, const std::string& expected, const std::string& got) {
     throw UsageError{name + ": expected " + expected + ", got " + got};
-}
-
-std::string Quoted(const std::string& text) {
-    return "\"" + text + "\"";
 }
 
 // A JSON value as a message shows it. What is nested is named only: its text has no bound, nor has its depth.
@@ -118,9 +116,17 @@ void Set_inputs(ConnectionState& s, const Json& inputs) {
     if (!inputs.is_object()) {
         throw UsageError{"expected an object of inputs, got " + Shown(inputs)};
     }
+    NamedValues named;
     for (const auto& item : inputs.items()) {
         const std::string& name = item.key();
         const Json& value = item.value();
+        if (Is_named_input(name)) {
+            if (!value.is_string() && !value.is_number()) {
+                Refuse(name, "a text or a number", Shown(value));
+            }
+            named.emplace_back(name, value.is_string() ? value.get<std::string>() : Shown(value));
+            continue;
+        }
         const std::string shown = Shown(value);
         const auto number = [&] {
             if (!value.is_number()) {
@@ -143,6 +149,7 @@ void Set_inputs(ConnectionState& s, const Json& inputs) {
                    Input(name).member);
         After_write(s, name);
     }
+    Set_named_inputs(s, named);
 }
 
 } // namespace tarnvik

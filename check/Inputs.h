@@ -14,7 +14,8 @@ namespace tarnvik {
 // Errors: throws UsageError that names the input and what was expected.
 void Set_input(ConnectionState& s, const std::string& name, const std::string& value);
 
-// Every member of the object, in its order. Errors: throws UsageError.
+// Every member of the object, in its order, and then its inputs by name (check/Named_inputs.h), together. Errors:
+// throws UsageError.
 void Set_inputs(ConnectionState& s, const nlohmann::ordered_json& inputs);
 
 } // namespace tarnvik

@@ -5,6 +5,8 @@
 #include <string_view>
 
 #include "calc/StateFields.h"
+#include "check/Lists.h"
+#include "check/Nearest.h"
 
 namespace tarnvik {
 
@@ -41,6 +43,12 @@ opened and checked.
 
   --data DIR         folder of the three CSV files (default: the window's own)
   --lang Eng|Nor     language of a new project (default: the setup file's)
+  --bolt, --bolts, --layout, --spacing, --connector, --material, --member1, --member2,
+  --joint, --tension, --compression, --angle, --load, --service
+                     inputs by name, such as --bolt M16x8.8 --bolts 3 --joint 1.2
+                     --member1 2x48x198 --member2 48x223 --tension 25kN
+  --list LIST        what can be asked for: bolts,connectors,materials,profiles,joints,
+                     cases,inputs; as a table, or JSON with --json
   --set NAME=VALUE   write an input before the check; repeatable, in the order given
   --json             one JSON object a line instead of the readable summary
   --with GROUPS      more in the JSON, separated by commas:
@@ -56,7 +64,8 @@ opened and checked.
   --version          the version
 
 A batch line is an object of inputs, or an array of such objects that are applied to
-the same connection one after the other; every line starts from a new project.
+the same connection one after the other; every line starts from a new project. Its
+keys are inputs, or the inputs by name without their dashes.
 
 Inputs (NAME): flags take true or false, the others a number or a text.
 )";
@@ -110,6 +119,19 @@ void Add_groups(Options& options, const std::string& list) {
     options.json = true;
 }
 
+void Set_list(Options& options, const std::string& value) {
+    const auto names = List_names();
+    if (std::find(names.begin(), names.end(), value) == names.end()) {
+        std::string expected;
+        for (const std::string_view name : names) {
+            expected += expected.empty() ? "" : ",";
+            expected += name;
+        }
+        throw UsageError{"--list: expected one of " + expected + ", got " + Quoted(value)};
+    }
+    options.list = value;
+}
+
 void Set_fields(Options& options, const std::string& list) {
     options.fields = Split_list(list);
     options.checks = std::erase(*options.fields, checks_group) > 0;
@@ -133,6 +155,7 @@ constexpr std::array option_rows{
     OptionRow{"--data",     "a folder",         [](Options& o, const std::string& value) { o.data = value; }},
     OptionRow{"--lang",     "Eng or Nor",       Set_lang},
     OptionRow{"--set",      "NAME=VALUE",       Add_input},
+    OptionRow{"--list",     "a list",           Set_list},
     OptionRow{"--json",     nullptr,            [](Options& o, const std::string&) { o.json = true; }},
     OptionRow{"--with",     "a list of groups", Add_groups},
     OptionRow{"--fields",   "a list of names",  Set_fields},
@@ -163,6 +186,14 @@ void Take_option(Options& options, const std::vector<std::string>& arguments, st
         attached = name.substr(equals + 1);
         name.resize(equals);
     }
+    const bool named = name.starts_with("--") && Is_named_input(name.substr(2));
+    if (named) {
+        if (!attached && i + 1 == arguments.size()) {
+            throw UsageError{name + ": expected a value"};
+        }
+        options.named.emplace_back(name.substr(2), attached ? *attached : arguments[++i]);
+        return;
+    }
     const OptionRow& row = Find_option(name);
     if (row.expected == nullptr) {
         row.take(options, {});
@@ -182,6 +213,9 @@ void Check_combination(const Options& options) {
     if (options.batch && !options.projects.empty()) {
         throw UsageError{"--batch starts every line from a new project: expected no project, got \"" +
                          options.projects.front() + "\""};
+    }
+    if (options.list && (options.batch || !options.projects.empty())) {
+        throw UsageError{"--list: expected no project and no batch beside it"};
     }
     const bool several = options.batch || options.projects.size() > 1;
     if (options.save && several) {

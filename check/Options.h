@@ -6,12 +6,16 @@
 #include <utility>
 #include <vector>
 
+#include "check/Named_inputs.h"
+
 namespace tarnvik {
 
 struct Options {
     std::string data;                // --data; empty: the one that the program finds
     std::optional<std::string> lang; // --lang
     std::vector<std::pair<std::string, std::string>> set;
+    NamedValues named;               // --bolt and the like
+    std::optional<std::string> list; // --list
     bool json{};
     bool batch{};
     bool strict{};

@@ -10,6 +10,7 @@
 
 #include "calc/RuntimeFault.h"
 #include "check/Inputs.h"
+#include "check/Lists.h"
 #include "check/Status.h"
 #include "check/Summary.h"
 #include "data/SetupFile.h"
@@ -30,6 +31,10 @@ int Tool::Run(const std::filesystem::path& folder) {
     if (report.setup) {
         err_ << "tarnvik-check: " << Setup_problem_text(*report.setup, folder, true) << "\n";
     }
+    if (options_.list) {
+        out_ << List_text(*s_, *options_.list, options_.json);
+        return exit_holds;
+    }
     if (options_.batch) {
         return Batch();
     }
@@ -44,6 +49,7 @@ void Tool::Set_all() {
     for (const auto& [name, value] : options_.set) {
         Set_input(*s_, name, value);
     }
+    Set_named_inputs(*s_, options_.named);
 }
 
 // ---------------------------------------------------------------------------------------------------------------------

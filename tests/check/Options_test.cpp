@@ -138,7 +138,7 @@ TEST(Options, the_inputs_are_those_that_a_user_can_choose) {
 Arguments Options_in(const std::string& text) {
     Arguments found;
     for (std::size_t at = text.find("--"); at != std::string::npos; at = text.find("--", at + 2)) {
-        const std::size_t end = text.find_first_not_of("abcdefghijklmnopqrstuvwxyz", at + 2);
+        const std::size_t end = text.find_first_not_of("abcdefghijklmnopqrstuvwxyz0123456789", at + 2);
         if (end > at + 2) {
             found.push_back(text.substr(at, end - at));
         }

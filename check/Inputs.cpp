@@ -4,6 +4,9 @@
 #include <charconv>
 #include <cmath>
 #include <limits>
+#include <set>
+#include <string_view>
+#include <vector>
 
 #include <nlohmann/json.hpp>
 
@@ -33,7 +36,10 @@ std::string Shown(const Json& value) {
     if (value.is_object()) {
         return value.empty() ? "{}" : "an object";
     }
-    return value.dump(-1, ' ', false, Json::error_handler_t::replace);
+    if (value.is_string()) {
+        return Json(Cut(value.get_ref<const std::string&>())).dump(-1, ' ', false, Json::error_handler_t::replace);
+    }
+    return value.dump();
 }
 
 // The nearest 32-bit float.
@@ -81,10 +87,23 @@ bool To_flag(const std::string& name, const std::string& text, const std::string
     Refuse(name, "true or false", shown);
 }
 
+std::vector<std::string_view> Names() {
+    std::vector<std::string_view> names;
+    for (const StateField& field : State_fields()) {
+        if (field.is_input) {
+            names.push_back(field.name);
+        }
+    }
+    for (const NamedInput& input : Named_inputs()) {
+        names.push_back(input.name);
+    }
+    return names;
+}
+
 const StateField& Input(const std::string& name) {
     const StateField* field = Find_state_field(name);
     if (field == nullptr || !field->is_input) {
-        throw UsageError{Quoted(name) + " is no input; see tarnvik-check --help"};
+        throw UsageError{Quoted(name) + " is no input; see tarnvik-check --help" + Nearest_names(name, Names())};
     }
     return *field;
 }
@@ -110,6 +129,25 @@ void Set_input(ConnectionState& s, const std::string& name, const std::string& v
         },
         Input(name).member);
     After_write(s, name);
+}
+
+nlohmann::ordered_json Parse_line(const std::string& line) {
+    std::set<std::string> keys; // of the object that is open; what is nested in it is refused later
+    const auto once = [&keys](int, Json::parse_event_t event, Json& key) {
+        if (event == Json::parse_event_t::object_start) {
+            keys.clear();
+        } else if (event == Json::parse_event_t::key && !keys.insert(key.get<std::string>()).second) {
+            throw UsageError{Quoted(key.get<std::string>()) + ": expected once in an object, got it twice"};
+        }
+        return true;
+    };
+    try {
+        return Json::parse(line, once);
+    } catch (const Json::parse_error& error) {
+        throw UsageError{"expected JSON, got something else at character " + std::to_string(error.byte)};
+    } catch (const Json::exception&) {
+        throw UsageError{"expected JSON with numbers that a 64-bit float holds"};
+    }
 }
 
 void Set_inputs(ConnectionState& s, const Json& inputs) {

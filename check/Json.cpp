@@ -298,7 +298,7 @@ void Append_json(std::string& json, std::string_view text) {
 
 void Append_result(std::string& json, const Options& options, const std::string& project, const ConnectionState& s,
                    const Screen& screen, const PassResult& result, const MessageLog& box, const RecordReport& record,
-                   const Judgement* judgement) {
+                   const Remarks& remarks) {
     List object{json, '{', '}'};
     if (!project.empty()) {
         object.Member("project", project);
@@ -321,11 +321,19 @@ void Append_result(std::string& json, const Options& options, const std::string&
             shown.Member("style", message.style);
         }
     }
+    if (!remarks.warnings.empty()) {
+        object.Name("warnings");
+        List warnings{json, '[', ']'};
+        for (const std::string& warning : remarks.warnings) {
+            warnings.Next();
+            Append_json(json, warning);
+        }
+    }
     object.Name("state");
     Append_state(json, options, s);
-    if (judgement != nullptr) {
+    if (remarks.checks) {
         object.Name("checks");
-        Append_checks(json, *judgement, Is_english(s));
+        Append_checks(json, *remarks.checks, Is_english(s));
     }
     for (const std::string& group : options.with) {
         object.Name(group);

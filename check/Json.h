@@ -3,6 +3,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -20,11 +21,17 @@ namespace tarnvik {
 // Prints the report on a recorder and gives its calls. A print changes the state, so it comes after the state's values.
 using RecordReport = std::function<std::vector<PrintCall>()>;
 
+// What stands beside the results.
+struct Remarks {
+    std::vector<std::string> warnings; // of inputs that may not be so (check/Validation.h)
+    std::optional<Judgement> checks;
+};
+
 // One result as an object without line end: project (where one was opened), end, fault, messages, state, and the groups
-// that the options ask for; and the group `checks` where there is a judgement. Appends to `json`. `record` is called
+// that the options ask for; and the remarks. Appends to `json`. `record` is called
 // for the group `report`.
 void Append_result(std::string& json, const Options& options, const std::string& project, const ConnectionState& s,
                    const Screen& screen, const PassResult& result, const MessageLog& box,
-                   const RecordReport& record = {}, const Judgement* judgement = nullptr);
+                   const RecordReport& record = {}, const Remarks& remarks = {});
 
 } // namespace tarnvik

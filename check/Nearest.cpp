@@ -63,12 +63,15 @@ std::string Nearest_names(std::string_view wanted, const std::vector<std::string
     return text;
 }
 
-std::string Quoted(std::string_view text) {
+std::string Cut(std::string_view text) {
     const std::string_view shown = First_characters(text, longest_shown);
-    std::string quoted = "\"";
-    quoted += shown;
-    quoted += shown.size() < text.size() ? "...\"" : "\"";
-    return quoted;
+    std::string cut{shown};
+    cut += shown.size() < text.size() ? "..." : "";
+    return cut;
+}
+
+std::string Quoted(std::string_view text) {
+    return "\"" + Cut(text) + "\"";
 }
 
 } // namespace tarnvik

@@ -14,7 +14,10 @@ std::string Plain_name(std::string_view name);
 // every third of it; those with the fewest first. Empty where there is none.
 std::string Nearest_names(std::string_view wanted, const std::vector<std::string_view>& names);
 
-// A text in quotes as a message shows it, cut where it is long.
+// A text as a message shows it, cut where it is long.
+std::string Cut(std::string_view text);
+
+// A text in quotes as a message shows it, cut likewise.
 std::string Quoted(std::string_view text);
 
 } // namespace tarnvik

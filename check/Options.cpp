@@ -55,7 +55,8 @@ opened and checked.
                      screen,tables,pictures,report,detail,explanations
   --fields A,B,...   only these names of the state; Mat, Prof and Setup show the tables,
                      checks the verdict
-  --strict           fail also where distances do not fit or a check was not made
+  --strict           fail also where distances do not fit or a check was not made;
+                     refuse inputs outside their ranges and impossible pairs
   --batch            read inputs as JSON Lines from standard input, one result a line
   --save FILE        save the project after the check
   --report FILE.pdf  write the two-page report
@@ -95,7 +96,7 @@ namespace {
 
 void Set_lang(Options& options, const std::string& value) {
     if (value != "Eng" && value != "Nor") {
-        throw UsageError{"--lang: expected Eng or Nor, got \"" + value + "\""};
+        throw UsageError{"--lang: expected Eng or Nor, got " + Quoted(value)};
     }
     options.lang = value;
 }
@@ -103,7 +104,7 @@ void Set_lang(Options& options, const std::string& value) {
 void Add_input(Options& options, const std::string& pair) {
     const std::size_t equals = pair.find('=');
     if (equals == std::string::npos || equals == 0) {
-        throw UsageError{"--set: expected NAME=VALUE, got \"" + pair + "\""};
+        throw UsageError{"--set: expected NAME=VALUE, got " + Quoted(pair)};
     }
     options.set.emplace_back(pair.substr(0, equals), pair.substr(equals + 1));
 }
@@ -111,8 +112,9 @@ void Add_input(Options& options, const std::string& pair) {
 void Add_groups(Options& options, const std::string& list) {
     for (std::string& group : Split_list(list)) {
         if (std::find(groups.begin(), groups.end(), group) == groups.end()) {
-            throw UsageError{"--with: unknown group \"" + group +
-                             "\", expected screen,tables,pictures,report,detail,explanations"};
+            throw UsageError{"--with: unknown group " + Quoted(group) +
+                             ", expected screen,tables,pictures,report,detail,explanations" +
+                             Nearest_names(group, {groups.begin(), groups.end()})};
         }
         options.with.push_back(std::move(group));
     }
@@ -132,12 +134,22 @@ void Set_list(Options& options, const std::string& value) {
     options.list = value;
 }
 
+std::vector<std::string_view> Field_names() {
+    std::vector<std::string_view> names{tables.begin(), tables.end()};
+    names.push_back(checks_group);
+    for (const StateField& field : State_fields()) {
+        names.push_back(field.name);
+    }
+    return names;
+}
+
 void Set_fields(Options& options, const std::string& list) {
     options.fields = Split_list(list);
     options.checks = std::erase(*options.fields, checks_group) > 0;
     for (const std::string& field : *options.fields) {
         if (Find_state_field(field) == nullptr && std::find(tables.begin(), tables.end(), field) == tables.end()) {
-            throw UsageError{"--fields: \"" + field + "\" is no name of the state"};
+            throw UsageError{"--fields: " + Quoted(field) + " is no name of the state" +
+                             Nearest_names(field, Field_names())};
         }
     }
     options.json = true;
@@ -169,11 +181,27 @@ constexpr std::array option_rows{
 };
 // clang-format on
 
+std::vector<std::string_view> Option_names() {
+    static const std::vector<std::string> named = [] {
+        std::vector<std::string> names;
+        for (const NamedInput& input : Named_inputs()) {
+            names.push_back("--" + std::string{input.name});
+        }
+        return names;
+    }();
+    std::vector<std::string_view> names{named.begin(), named.end()};
+    for (const OptionRow& row : option_rows) {
+        names.push_back(row.name);
+    }
+    return names;
+}
+
 const OptionRow& Find_option(const std::string& name) {
     const auto* const row =
         std::find_if(option_rows.begin(), option_rows.end(), [&](const OptionRow& one) { return one.name == name; });
     if (row == option_rows.end()) {
-        throw UsageError{"unknown option " + name + "; see tarnvik-check --help"};
+        throw UsageError{"unknown option " + Cut(name) + "; see tarnvik-check --help" +
+                         Nearest_names(name, Option_names())};
     }
     return *row;
 }
@@ -211,8 +239,8 @@ void Take_option(Options& options, const std::vector<std::string>& arguments, st
 
 void Check_combination(const Options& options) {
     if (options.batch && !options.projects.empty()) {
-        throw UsageError{"--batch starts every line from a new project: expected no project, got \"" +
-                         options.projects.front() + "\""};
+        throw UsageError{"--batch starts every line from a new project: expected no project, got " +
+                         Quoted(options.projects.front())};
     }
     if (options.list && (options.batch || !options.projects.empty())) {
         throw UsageError{"--list: expected no project and no batch beside it"};

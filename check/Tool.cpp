@@ -13,6 +13,7 @@
 #include "check/Lists.h"
 #include "check/Status.h"
 #include "check/Summary.h"
+#include "check/Validation.h"
 #include "data/SetupFile.h"
 #include "report/PrintReport.h"
 #include "report/Recorder.h"
@@ -87,17 +88,34 @@ int Tool::Project(const std::string& path) {
     return One(path);
 }
 
+// Tells what the inputs may not be, where the result does not. Under --strict that is an error.
+bool Tool::Acceptable(const std::string& project) {
+    remarks_ = {Invalid_inputs(*s_), std::nullopt};
+    if (!options_.json || options_.strict) {
+        for (const std::string& warning : remarks_.warnings) {
+            err_ << "tarnvik-check: " << project << (project.empty() ? "" : ": ")
+                 << (options_.strict ? "" : "warning: ") << warning << "\n";
+        }
+    }
+    return !options_.strict || remarks_.warnings.empty();
+}
+
 // A pass, its result and what was asked to be written.
 int Tool::One(const std::string& project) {
+    if (!Acceptable(project)) {
+        return exit_usage;
+    }
     messages_.messages.clear();
     judge_.Begin();
     const PassResult result = session_.First_pass();
     judge_.After_pass(*s_, result, true);
     const Judgement judgement = judge_.Judge_results(*s_);
     if (options_.json) {
+        if (options_.checks) {
+            remarks_.checks = judgement;
+        }
         std::string json;
-        Append_result(json, options_, project, *s_, session_.Shown(), result, messages_, Recording(),
-                      options_.checks ? &judgement : nullptr);
+        Append_result(json, options_, project, *s_, session_.Shown(), result, messages_, Recording(), remarks_);
         out_ << json << "\n";
     } else {
         out_ << Summary(project, *s_, result, messages_) << Checks_summary(judgement);
@@ -167,6 +185,9 @@ int Tool::Batch() {
     for (long number = 1; out_ && std::getline(in_, line); ++number) {
         static_cast<ConnectionValues&>(*s_) = fresh; // the tables never change in a batch
         session_.Shown() = {};
+        if (line.find_first_not_of(" \t\r") == std::string::npos) {
+            continue;
+        }
         json.clear();
         status = Worse(status, Line(line, number, json));
         json += '\n';
@@ -175,24 +196,23 @@ int Tool::Batch() {
             out_.flush();
         }
     }
+    if (in_.bad()) {
+        throw UsageError{"standard input cannot be read"};
+    }
     return status;
 }
 
 int Tool::Line(const std::string& line, long number, std::string& json) {
     try {
-        const PassResult result = Calculate_line(Json::parse(line));
-        std::optional<Judgement> judgement;
-        if (options_.checks || options_.strict) {
-            judgement = judge_.Judge_results(*s_);
+        const PassResult result = Calculate_line(Parse_line(line));
+        if (options_.checks) {
+            remarks_.checks = judge_.Judge_results(*s_);
         }
-        Append_result(json, options_, {}, *s_, session_.Shown(), result, messages_, Recording(),
-                      options_.checks ? &*judgement : nullptr);
+        Append_result(json, options_, {}, *s_, session_.Shown(), result, messages_, Recording(), remarks_);
         const int status = Status(*s_, result);
-        return options_.strict ? Strict_status(status, *judgement) : status;
+        return options_.strict ? Strict_status(status, judge_.Judge_results(*s_)) : status;
     } catch (const UsageError& error) {
         return Bad_line(json, number, error.text);
-    } catch (const Json::exception& error) {
-        return Bad_line(json, number, std::string{"expected JSON: "} + error.what());
     }
 }
 
@@ -206,8 +226,12 @@ PassResult Tool::Calculate_line(const Json& inputs) {
         throw UsageError{"expected at least one object of inputs, got []"};
     }
     PassResult result;
-    for (const Json& object : inputs) {
-        result = Calculate(object, &object == &inputs.front());
+    for (std::size_t i = 0; i < inputs.size(); ++i) {
+        try {
+            result = Calculate(inputs[i], i == 0);
+        } catch (const UsageError& error) {
+            throw inputs.size() > 1 ? UsageError{"element " + std::to_string(i + 1) + ": " + error.text} : error;
+        }
     }
     return result;
 }
@@ -215,6 +239,10 @@ PassResult Tool::Calculate_line(const Json& inputs) {
 PassResult Tool::Calculate(const Json& inputs, bool first) {
     messages_.messages.clear();
     Set_inputs(*s_, inputs);
+    remarks_ = {Invalid_inputs(*s_), std::nullopt};
+    if (options_.strict && !remarks_.warnings.empty()) {
+        throw UsageError{remarks_.warnings.front()};
+    }
     const PassResult result =
         session_.First_pass(options_.with.empty() ? Session::Showing::nothing : Session::Showing::screen);
     judge_.After_pass(*s_, result, first || inputs.contains("man_he") || inputs.contains("Man_he_on"));

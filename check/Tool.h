@@ -36,6 +36,7 @@ private:
     int Projects();
     int Project(const std::string& path);
     int One(const std::string& project);
+    bool Acceptable(const std::string& project);
     int Write_report(const PassResult& result);
     int Save();
     RecordReport Recording();
@@ -53,6 +54,7 @@ private:
     Rendering* rendering_;
     SystemClock clock_;
     MessageLog messages_; // of the last pass
+    Remarks remarks_;     // on it
     std::unique_ptr<ConnectionState> start_ = std::make_unique<ConnectionState>();
     std::unique_ptr<ConnectionState> s_ = std::make_unique<ConnectionState>();
     Session session_{*s_, *this};

@@ -60,7 +60,7 @@ bool Is_he(const S& s) {
         return true;
     }
     const std::optional<double> height = Splitting_height(s);
-    return s.man_he > 0.0F && (!height || s.man_he < *height);
+    return s.man_he > 0.0F && (!height || s.man_he <= *height);
 }
 
 constexpr float least_factor = 0.1F;
@@ -108,7 +108,7 @@ constexpr std::array rules{
     Rule{"Avstand_index", "a row of 5d to 20d",       [](const S& s) { return Between(s.Avstand_index, 0, 15); }, [](const S&) { return 15; }, "spacing of the bolts along the grain"},
     Rule{"P",             "a force in kN",            nullptr, nullptr, "design force, above 0 compression"},
     Rule{"Man_he_on",     "true or false",            nullptr, nullptr, "he of the splitting check is typed"},
-    Rule{"man_he",        "above 0 mm and less than the height of the member that may split", Is_he, nullptr, "the typed he"},
+    Rule{"man_he",        "above 0 mm and at most the height of the member that may split", Is_he, nullptr, "the typed he"},
 };
 
 // What holds between flags.

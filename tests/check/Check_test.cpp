@@ -445,7 +445,6 @@ TEST(CheckBatch, a_bad_line_is_told_and_the_run_goes_on) {
     };
     // clang-format off
     const Row rows[] = {
-        {"",                          "expected JSON"},
         {"{",                         "expected JSON"},
         {"{} {}",                     "expected JSON"},
         {"P=1",                       "expected JSON"},

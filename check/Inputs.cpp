@@ -114,6 +114,33 @@ void After_write(ConnectionState& s, const std::string& name) {
     }
 }
 
+// The members of an object, or of the objects of an array. What is nested in them is refused later.
+std::size_t Members(const Json& inputs) {
+    if (inputs.is_object()) {
+        return inputs.size();
+    }
+    std::size_t members = 0;
+    if (inputs.is_array()) {
+        for (const Json& object : inputs) {
+            members += object.is_object() ? object.size() : 0;
+        }
+    }
+    return members;
+}
+
+void Refuse_key_twice(const std::string& line) {
+    std::set<std::string> keys; // of the object that is open
+    const auto once = [&keys](int, Json::parse_event_t event, Json& key) {
+        if (event == Json::parse_event_t::object_start) {
+            keys.clear();
+        } else if (event == Json::parse_event_t::key && !keys.insert(key.get<std::string>()).second) {
+            throw UsageError{Quoted(key.get<std::string>()) + ": expected once in an object, got it twice"};
+        }
+        return true;
+    };
+    [[maybe_unused]] const Json read = Json::parse(line, once);
+}
+
 } // namespace
 
 void Set_input(ConnectionState& s, const std::string& name, const std::string& value) {
@@ -132,17 +159,17 @@ void Set_input(ConnectionState& s, const std::string& name, const std::string& v
 }
 
 nlohmann::ordered_json Parse_line(const std::string& line) {
-    std::set<std::string> keys; // of the object that is open; what is nested in it is refused later
-    const auto once = [&keys](int, Json::parse_event_t event, Json& key) {
-        if (event == Json::parse_event_t::object_start) {
-            keys.clear();
-        } else if (event == Json::parse_event_t::key && !keys.insert(key.get<std::string>()).second) {
-            throw UsageError{Quoted(key.get<std::string>()) + ": expected once in an object, got it twice"};
-        }
+    std::size_t keys = 0;
+    const auto count = [&keys](int, Json::parse_event_t event, const Json&) {
+        keys += event == Json::parse_event_t::key ? 1 : 0;
         return true;
     };
     try {
-        return Json::parse(line, once);
+        Json inputs = Json::parse(line, count);
+        if (keys > Members(inputs)) {
+            Refuse_key_twice(line);
+        }
+        return inputs;
     } catch (const Json::parse_error& error) {
         throw UsageError{"expected JSON, got something else at character " + std::to_string(error.byte)};
     } catch (const Json::exception&) {

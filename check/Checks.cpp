@@ -157,14 +157,21 @@ Judgement Judge::Judge_results(const ConnectionValues& s) const {
     return judgement;
 }
 
+std::string_view Check_name(std::size_t i) {
+    return check_rows[i].name;
+}
+
+std::string Judgement_text(const Judgement& judgement, bool english) {
+    return judgement.not_current.empty() ? Verdict_text(judgement.verdict, english) : judgement.not_current;
+}
+
 void Append_checks(std::string& json, const Judgement& judgement, bool english) {
     JsonList object{json, '{', '}'};
     Append_holds(object, judgement.Holds());
+    object.Member("text", Judgement_text(judgement, english));
     if (!judgement.not_current.empty()) {
-        object.Member("text", judgement.not_current);
         return;
     }
-    object.Member("text", Verdict_text(judgement.verdict, english));
     for (std::size_t i = 0; i < check_count; ++i) {
         if (judgement.verdict.checks[i].applies) {
             object.Name(check_rows[i].name);

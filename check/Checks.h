@@ -2,8 +2,10 @@
 // clauses.
 #pragma once
 
+#include <cstddef>
 #include <optional>
 #include <string>
+#include <string_view>
 
 #include "calc/GlobalParameter.h"
 #include "calc/pass/Main_beregn.h"
@@ -46,6 +48,12 @@ private:
     Standing& results_;
     std::optional<Splitting> typed_;
 };
+
+// A check as the JSON, the summary and tables call it; i is its place in Check.
+std::string_view Check_name(std::size_t i);
+
+// The verdict in words, or why there is none.
+std::string Judgement_text(const Judgement& judgement, bool english);
 
 // The members of the group `checks`.
 void Append_checks(std::string& json, const Judgement& judgement, bool english);

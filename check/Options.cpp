@@ -58,6 +58,10 @@ opened and checked.
   --strict           fail also where distances do not fit or a check was not made;
                      refuse inputs outside their ranges and impossible pairs
   --batch            read inputs as JSON Lines from standard input, one result a line
+  --sweep NAME=FROM:TO:STEP
+                     verdicts over a range of an input, as CSV, or JSON with --json;
+                     two of them give a grid
+  --plot FILE.svg    draw the utilisations over the input of --sweep
   --save FILE        save the project after the check
   --report FILE.pdf  write the two-page report
   --pictures DIR     write every stored picture, as PNG and SVG, under its key
@@ -173,6 +177,8 @@ constexpr std::array option_rows{
     OptionRow{"--fields",   "a list of names",  Set_fields},
     OptionRow{"--batch",    nullptr,            [](Options& o, const std::string&) { o.batch = o.json = true; }},
     OptionRow{"--strict",   nullptr,            [](Options& o, const std::string&) { o.strict = true; }},
+    OptionRow{"--sweep",    "NAME=FROM:TO:STEP", [](Options& o, const std::string& value) { o.sweep.push_back(Parse_sweep(value)); }},
+    OptionRow{"--plot",     "a file",           [](Options& o, const std::string& value) { o.plot = value; }},
     OptionRow{"--save",     "a file",           [](Options& o, const std::string& value) { o.save = value; }},
     OptionRow{"--report",   "a file",           [](Options& o, const std::string& value) { o.report = value; }},
     OptionRow{"--pictures", "a folder",         [](Options& o, const std::string& value) { o.pictures = value; }},
@@ -237,6 +243,26 @@ void Take_option(Options& options, const std::vector<std::string>& arguments, st
     }
 }
 
+void Check_sweep(const Options& options) {
+    constexpr std::size_t most_points = 100000;
+    if (options.plot && options.sweep.size() != 1) {
+        throw UsageError{"--plot: expected one --sweep beside it"};
+    }
+    if (options.sweep.empty()) {
+        return;
+    }
+    if (options.sweep.size() > 2 || (options.sweep.size() == 2 && options.sweep[0].name == options.sweep[1].name)) {
+        throw UsageError{"--sweep: expected one input, or two for a grid"};
+    }
+    if (options.batch || options.projects.size() > 1 || options.save || options.report || !options.with.empty() ||
+        options.fields) {
+        throw UsageError{"--sweep: expected one project or none, and no --batch, --save, --report, --with or --fields"};
+    }
+    if (options.sweep.size() == 2 && options.sweep[0].Count() * options.sweep[1].Count() > most_points) {
+        throw UsageError{"--sweep: expected a grid of at most 100000 points"};
+    }
+}
+
 void Check_combination(const Options& options) {
     if (options.batch && !options.projects.empty()) {
         throw UsageError{"--batch starts every line from a new project: expected no project, got " +
@@ -245,6 +271,7 @@ void Check_combination(const Options& options) {
     if (options.list && (options.batch || !options.projects.empty())) {
         throw UsageError{"--list: expected no project and no batch beside it"};
     }
+    Check_sweep(options);
     const bool several = options.batch || options.projects.size() > 1;
     if (options.save && several) {
         throw UsageError{"--save: expected one project, or none"};

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "check/Named_inputs.h"
+#include "check/Sweep.h"
 
 namespace tarnvik {
 
@@ -24,6 +25,8 @@ struct Options {
     std::vector<std::string> with;                  // groups
     std::optional<std::vector<std::string>> fields; // names of the state
     bool checks{true};                              // the group `checks`: with --fields where it is asked for
+    std::vector<SweepRange> sweep;                  // --sweep
+    std::optional<std::string> plot;                // --plot: the SVG file
     std::optional<std::string> save;
     std::optional<std::string> report;   // --report: the PDF file
     std::optional<std::string> pictures; // --pictures: the folder

@@ -11,9 +11,11 @@
 #include "calc/RuntimeFault.h"
 #include "check/Inputs.h"
 #include "check/Lists.h"
+#include "check/Plot.h"
 #include "check/Status.h"
 #include "check/Summary.h"
 #include "check/Validation.h"
+#include "data/SafeWrite.h"
 #include "data/SetupFile.h"
 #include "report/PrintReport.h"
 #include "report/Recorder.h"
@@ -105,6 +107,9 @@ int Tool::One(const std::string& project) {
     if (!Acceptable(project)) {
         return exit_usage;
     }
+    if (!options_.sweep.empty()) {
+        return Sweep();
+    }
     messages_.messages.clear();
     judge_.Begin();
     const PassResult result = session_.First_pass();
@@ -132,6 +137,74 @@ int Tool::One(const std::string& project) {
     }
     return status;
 }
+
+// ---------------------------------------------------------------------------------------------------------------------
+// A sweep
+
+int Tool::Sweep() {
+    const ConnectionValues fresh = *s_;
+    const SweepRange& first = options_.sweep.front();
+    const SweepRange* const second = options_.sweep.size() > 1 ? &options_.sweep[1] : nullptr;
+    std::string table = options_.json ? std::string{} : Sweep_heading(options_.sweep); // none where a value is refused
+    int status = exit_holds;
+    std::vector<SweepPoint> points;
+    for (std::size_t i = 0; i < first.Count(); ++i) {
+        for (std::size_t k = 0; k < (second != nullptr ? second->Count() : 1); ++k) {
+            static_cast<ConnectionValues&>(*s_) = fresh;
+            std::vector<double> values{first.Value(i)};
+            NamedValues inputs{{first.name, first.Text(i)}};
+            if (second != nullptr) {
+                values.push_back(second->Value(k));
+                inputs.emplace_back(second->name, second->Text(k));
+            }
+            SweepPoint point = Point(values, inputs, status);
+            table += options_.json ? Sweep_json(options_.sweep, point) : Sweep_line(point);
+            if (options_.plot) {
+                points.push_back(std::move(point));
+            }
+        }
+    }
+    out_ << table;
+    return options_.plot ? Worse(status, Write_plot(points)) : status;
+}
+
+// Errors: throws UsageError, also for what --strict refuses.
+SweepPoint Tool::Point(const std::vector<double>& values, const NamedValues& inputs, int& status) {
+    NamedValues named;
+    for (const auto& [name, value] : inputs) {
+        if (Is_named_input(name)) {
+            named.emplace_back(name, value);
+        } else {
+            Set_input(*s_, name, value);
+        }
+    }
+    Set_named_inputs(*s_, named);
+    SweepPoint point{values, Invalid_inputs(*s_), {}};
+    if (options_.strict && !point.warnings.empty()) {
+        throw UsageError{"--sweep: " + point.warnings.front()};
+    }
+    messages_.messages.clear();
+    judge_.Begin();
+    const PassResult result = session_.First_pass(Session::Showing::nothing);
+    judge_.After_pass(*s_, result, true);
+    point.judgement = judge_.Judge_results(*s_);
+    const int plain = Status(*s_, result);
+    status = Worse(status, options_.strict ? Strict_status(plain, point.judgement) : plain);
+    return point;
+}
+
+int Tool::Write_plot(const std::vector<SweepPoint>& points) {
+    const std::string title = s_->Prosjekt + ", " + s_->Id;
+    try {
+        Safe_write(*options_.plot, Plot_sweep(options_.sweep.front(), points, title), {OldTail::drop}, "Write_plot");
+    } catch (const RuntimeFault& fault) {
+        err_ << "tarnvik-check: " << *options_.plot << ": cannot be written: " << fault.description << "\n";
+        return exit_usage;
+    }
+    return exit_holds;
+}
+
+// ---------------------------------------------------------------------------------------------------------------------
 
 // The report of the state as it stands, recorded.
 RecordReport Tool::Recording() {

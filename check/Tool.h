@@ -36,6 +36,9 @@ private:
     int Projects();
     int Project(const std::string& path);
     int One(const std::string& project);
+    int Sweep();
+    SweepPoint Point(const std::vector<double>& values, const NamedValues& inputs, int& status);
+    int Write_plot(const std::vector<SweepPoint>& points);
     bool Acceptable(const std::string& project);
     int Write_report(const PassResult& result);
     int Save();

@@ -10,6 +10,7 @@
 #include "check/Json.h"
 #include "check/Named_inputs.h"
 #include "check/Summary.h"
+#include "check/Sweep.h"
 #include "check/Validation.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
@@ -62,6 +63,12 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         const std::string pair{reinterpret_cast<const char*>(data), size};
         const std::size_t equals = pair.find('=');
         if (equals != std::string::npos) {
+            try {
+                const SweepRange range = Parse_sweep(pair);
+                FUZZ_CHECK(range.Count() > 0 && !range.Text(range.Count() - 1).empty());
+            } catch (const UsageError& error) {
+                FUZZ_CHECK(!error.text.empty());
+            }
             try {
                 const std::string name = pair.substr(0, equals);
                 if (Is_named_input(name)) {

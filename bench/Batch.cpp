@@ -1,8 +1,9 @@
-// What a batch of the headless tool costs, JSON in and JSON out.
+// What a batch of the headless tool costs, JSON in and JSON out, and how often it asks for memory.
 #include <sstream>
 
 #include <benchmark/benchmark.h>
 
+#include "bench/Allocations.h"
 #include "check/Check.h"
 
 namespace tarnvik {
@@ -31,7 +32,9 @@ void Batch(benchmark::State& bench, const std::vector<std::string>& arguments) {
         std::istringstream in{lines};
         std::ostringstream out;
         std::ostringstream err;
+        const long before = Allocations();
         benchmark::DoNotOptimize(Run_check(arguments, TARNVIK_DATA_DIR, in, out, err));
+        bench.counters["allocations a line"] = static_cast<double>(Allocations() - before) / count;
         if (!err.view().empty()) {
             bench.SkipWithError("the batch has a line that cannot be read");
             return;

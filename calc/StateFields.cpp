@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <array>
+#include <cstddef>
+#include <cstdint>
 
 namespace tarnvik {
 
@@ -180,6 +182,35 @@ constexpr std::array<StateField, 165> state_fields{{
     {"Sum_cb", &S::Sum_cb, result},
 }};
 
+// Where the names stand, by a hash of theirs: the row is in the slot of the hash or in the next free one.
+constexpr std::size_t slot_count = 512;
+constexpr std::uint8_t no_row = 255;
+static_assert(state_fields.size() < no_row);
+
+// Names differ in their first letters, their last ones or their length.
+constexpr std::size_t Slot_of(std::string_view name) {
+    std::size_t hash = name.size();
+    const std::size_t first = std::min<std::size_t>(name.size(), 3);
+    for (std::size_t i = 0; i < first; ++i) {
+        hash = hash * 31 + static_cast<unsigned char>(name[i]);
+        hash = hash * 31 + static_cast<unsigned char>(name[name.size() - 1 - i]);
+    }
+    return hash % slot_count;
+}
+
+constexpr std::array<std::uint8_t, slot_count> slots = [] {
+    std::array<std::uint8_t, slot_count> made{};
+    made.fill(no_row);
+    for (std::size_t row = 0; row < state_fields.size(); ++row) {
+        std::size_t slot = Slot_of(state_fields[row].name);
+        while (made[slot] != no_row) {
+            slot = (slot + 1) % slot_count;
+        }
+        made[slot] = static_cast<std::uint8_t>(row);
+    }
+    return made;
+}();
+
 } // namespace
 
 std::span<const StateField> State_fields() {
@@ -187,9 +218,12 @@ std::span<const StateField> State_fields() {
 }
 
 const StateField* Find_state_field(std::string_view name) {
-    const auto found = std::find_if(state_fields.begin(), state_fields.end(),
-                                    [name](const StateField& field) { return field.name == name; });
-    return found == state_fields.end() ? nullptr : &*found;
+    for (std::size_t slot = Slot_of(name); slots[slot] != no_row; slot = (slot + 1) % slot_count) {
+        if (const StateField& field = state_fields[slots[slot]]; field.name == name) {
+            return &field;
+        }
+    }
+    return nullptr;
 }
 
 } // namespace tarnvik

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <charconv>
 #include <cmath>
+#include <cstdint>
+#include <optional>
 
 #include "calc/Arithmetic.h"
 
@@ -76,11 +78,38 @@ long First_place(std::string_view number) {
     return (first < point ? point - first - 1 : point - first) + exponent;
 }
 
+// The value of a short decimal number without an exponent: its digits as a whole number, and the power of ten that they
+// are divided by, are exact in double, and so the quotient is the nearest double. Nothing for any other text.
+std::optional<double> Short_decimal(std::string_view number) {
+    constexpr std::array<double, 16> powers{1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
+                                            1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
+    if (number.size() >= powers.size()) {
+        return std::nullopt;
+    }
+    std::int64_t digits = 0;
+    std::size_t decimals = 0;
+    bool point = false;
+    for (const char c : number) {
+        if (Is_digit(c)) {
+            digits = 10 * digits + (c - '0');
+            decimals += point ? 1 : 0;
+        } else if (c == '.') {
+            point = true;
+        } else {
+            return std::nullopt;
+        }
+    }
+    return static_cast<double>(digits) / powers[decimals];
+}
+
 // The value of a numeric text that Numeric_prefix accepted; the point is ".".
 float Numeric_value(std::string_view number, std::string_view where) {
     const bool negative = !number.empty() && number.front() == '-';
     if (!number.empty() && (number.front() == '+' || number.front() == '-')) {
         number.remove_prefix(1);
+    }
+    if (const auto value = Short_decimal(number)) {
+        return static_cast<float>(negative ? -*value : *value);
     }
     double value = 0.0;
     const auto [end, error] = std::from_chars(number.data(), number.data() + number.size(), value);
@@ -128,12 +157,18 @@ std::string_view Rounded_digits(double magnitude, std::size_t decimals, Digits& 
         scale *= 10.0;
     }
     const double scaled = magnitude * scale;
-    double rounded = std::trunc(scaled);
-    if (scaled - rounded >= 0.5) {
-        rounded += 1.0;
-    }
     char* const begin = buffer.data();
-    const auto end = std::to_chars(begin, begin + buffer.size(), rounded, std::chars_format::fixed, 0).ptr;
+    char* const room = begin + buffer.size();
+    char* end = begin;
+    if (scaled < 0x1p62) { // many times faster than the digits of a double, which only the largest floats need
+        auto rounded = static_cast<std::int64_t>(scaled);
+        if (scaled - static_cast<double>(rounded) >= 0.5) {
+            ++rounded;
+        }
+        end = std::to_chars(begin, room, rounded).ptr;
+    } else {
+        end = std::to_chars(begin, room, scaled, std::chars_format::fixed, 0).ptr; // such a number is whole
+    }
     return {begin, static_cast<std::size_t>(end - begin)};
 }
 
@@ -240,7 +275,15 @@ ShortText Format(float value, std::string_view picture) {
 
 ShortText Shortest(float value) {
     std::array<char, 32> buffer{};
-    const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value).ptr;
+    char* const room = buffer.data() + buffer.size();
+    char* end = nullptr;
+    // From 100000 on an exponent may be shorter.
+    const int whole = std::fabs(value) < 1e5F ? static_cast<int>(value) : 0;
+    if (whole != 0 && static_cast<float>(whole) == value) {
+        end = std::to_chars(buffer.data(), room, whole).ptr;
+    } else {
+        end = std::to_chars(buffer.data(), room, value).ptr;
+    }
     ShortText text;
     text.Append(std::string_view{buffer.data(), static_cast<std::size_t>(end - buffer.data())});
     return text;

@@ -3,6 +3,7 @@
 // Texts are UTF-8; lengths count characters, never bytes.
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <string_view>
@@ -28,6 +29,13 @@ public:
     FixedText(std::string_view text) { Assign(text); } // NOLINT(google-explicit-constructor): a text like any other
     FixedText(const char* text) : FixedText(std::string_view{text}) {} // NOLINT(google-explicit-constructor)
 
+    // In place: a text that is made first and then copied waits for its own bytes.
+    FixedText& operator=(std::string_view text) {
+        Assign(text);
+        return *this;
+    }
+    FixedText& operator=(const char* text) { return *this = std::string_view{text}; }
+
     // A text of another length is cut or filled up.
     template <std::size_t M> FixedText& operator=(const FixedText<M>& other) {
         Assign(other.View());
@@ -43,6 +51,14 @@ public:
 
 private:
     void Assign(std::string_view text) {
+        const std::string_view begin = text.substr(0, N + 1);
+        if (std::none_of(begin.begin(), begin.end(),
+                         [](char c) { return (static_cast<unsigned char>(c) & 0x80U) != 0; })) {
+            size_ = N; // a byte is a character
+            const std::size_t count = std::min(text.size(), N);
+            std::fill(std::copy_n(text.data(), count, bytes_.data()), bytes_.data() + N, ' ');
+            return;
+        }
         std::size_t characters = 0;
         size_ = 0;
         for (std::size_t i = 0; i < text.size() && characters < N; ++characters) {
@@ -83,21 +99,23 @@ char Decimal_sign();
 // A short text without heap memory.
 class ShortText {
 public:
+    ShortText() {} // NOLINT(cppcoreguidelines-pro-type-member-init,modernize-use-equals-default): bytes_ are not read
+
     void Append(char c) {
         if (size_ < bytes_.size()) {
             bytes_[size_++] = c;
         }
     }
     void Append(std::string_view text) {
-        for (const char c : text) {
-            Append(c);
-        }
+        const std::size_t count = std::min(text.size(), bytes_.size() - size_);
+        std::copy_n(text.data(), count, bytes_.data() + size_);
+        size_ += count;
     }
     [[nodiscard]] std::string_view View() const { return {bytes_.data(), size_}; }
     operator std::string_view() const { return View(); } // NOLINT(google-explicit-constructor)
 
 private:
-    std::array<char, 64> bytes_{};
+    std::array<char, 64> bytes_; // filled as far as size_ says
     std::size_t size_{};
 };
 

@@ -6,6 +6,7 @@
 #include "calc/RuntimeFault.h"
 #include "calc/Version.h"
 #include "check/Options.h"
+#include "check/Paint_program.h"
 #include "check/Status.h"
 #include "check/Tool.h"
 #include "data/Folders.h"
@@ -15,6 +16,10 @@
 namespace tarnvik {
 
 namespace {
+
+[[noreturn]] void Refuse_painting(const std::string& option) {
+    throw UsageError{option + " needs " + paint_program_name + " beside the program; the build with the window has it"};
+}
 
 // The exit status of what the options ask for.
 int Carry_out(Options options, const std::filesystem::path& program_folder, std::istream& in, std::ostream& out,
@@ -29,14 +34,14 @@ int Carry_out(Options options, const std::filesystem::path& program_folder, std:
     }
     if (options.pictures) {
         if (rendering == nullptr) {
-            throw UsageError{"--pictures needs the build with the window"};
+            Refuse_painting("--pictures");
         }
         const int written = rendering->Write_pictures(*options.pictures);
         out << written << " pictures written to " << *options.pictures << "\n";
         return exit_holds;
     }
     if (options.report && rendering == nullptr) {
-        throw UsageError{"--report needs the build with the window"};
+        Refuse_painting("--report");
     }
     const std::filesystem::path folder = Readable_folder(Find_data_folder(program_folder, options.data));
     return Tool{std::move(options), in, out, err, rendering}.Run(folder);

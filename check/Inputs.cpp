@@ -42,18 +42,26 @@ std::string Shown(const Json& value) {
     return value.dump();
 }
 
-// The nearest 32-bit float.
-float To_float(const std::string& name, double value, const std::string& shown) {
+// A 32-bit float holds the value, rounded.
+bool Fits_float(double value) {
     constexpr double limit = 0x1.ffffffp127;
-    if (!(value > -limit && value < limit)) {
+    return value > -limit && value < limit;
+}
+
+bool Fits_int16(double value) {
+    return std::trunc(value) == value && value >= std::numeric_limits<std::int16_t>::min() &&
+           value <= std::numeric_limits<std::int16_t>::max();
+}
+
+float To_float(const std::string& name, double value, const std::string& shown) {
+    if (!Fits_float(value)) {
         Refuse(name, "a number that a 32-bit float holds", shown);
     }
     return static_cast<float>(value);
 }
 
 std::int16_t To_int16(const std::string& name, double value, const std::string& shown) {
-    if (std::trunc(value) != value || value < std::numeric_limits<std::int16_t>::min() ||
-        value > std::numeric_limits<std::int16_t>::max()) {
+    if (!Fits_int16(value)) {
         Refuse(name, "a whole number from -32768 to 32767", shown);
     }
     return static_cast<std::int16_t>(value);
@@ -108,7 +116,7 @@ const StateField& Input(const std::string& name) {
     return *field;
 }
 
-void After_write(ConnectionState& s, const std::string& name) {
+void After_write(ConnectionState& s, std::string_view name) {
     if (name == "Bulldog_index") {
         Get_dc(s);
     }
@@ -128,7 +136,7 @@ std::size_t Members(const Json& inputs) {
     return members;
 }
 
-void Refuse_key_twice(const std::string& line) {
+void Refuse_key_twice(std::string_view line) {
     std::set<std::string> keys; // of the object that is open
     const auto once = [&keys](int, Json::parse_event_t event, Json& key) {
         if (event == Json::parse_event_t::object_start) {
@@ -158,7 +166,7 @@ void Set_input(ConnectionState& s, const std::string& name, const std::string& v
     After_write(s, name);
 }
 
-nlohmann::ordered_json Parse_line(const std::string& line) {
+nlohmann::ordered_json Parse_line(std::string_view line) {
     std::size_t keys = 0;
     const auto count = [&keys](int, Json::parse_event_t event, const Json&) {
         keys += event == Json::parse_event_t::key ? 1 : 0;
@@ -192,29 +200,71 @@ void Set_inputs(ConnectionState& s, const Json& inputs) {
             named.emplace_back(name, value.is_string() ? value.get<std::string>() : Shown(value));
             continue;
         }
-        const std::string shown = Shown(value);
         const auto number = [&] {
             if (!value.is_number()) {
-                Refuse(name, "a number", shown);
+                Refuse(name, "a number", Shown(value));
             }
             return value.get<double>();
         };
-        std::visit(Overloaded{
-                       [&](float ConnectionState::*member) { s.*member = To_float(name, number(), shown); },
-                       [&](std::int16_t ConnectionState::*member) { s.*member = To_int16(name, number(), shown); },
-                       [&](bool ConnectionState::*member) { s.*member = To_flag(name, shown, shown); },
-                       [&](std::string_view ConnectionState::*) {}, // labels are results
-                       [&](auto member) {
-                           if (!value.is_string()) {
-                               Refuse(name, "a text", shown);
-                           }
-                           s.*member = std::string_view{value.get_ref<const std::string&>()};
-                       },
-                   },
-                   Input(name).member);
+        std::visit(
+            Overloaded{
+                [&](float ConnectionState::*member) { s.*member = To_float(name, number(), Shown(value)); },
+                [&](std::int16_t ConnectionState::*member) { s.*member = To_int16(name, number(), Shown(value)); },
+                [&](bool ConnectionState::*member) { s.*member = To_flag(name, Shown(value), Shown(value)); },
+                [&](std::string_view ConnectionState::*) {}, // labels are results
+                [&](auto member) {
+                    if (!value.is_string()) {
+                        Refuse(name, "a text", Shown(value));
+                    }
+                    s.*member = std::string_view{value.get_ref<const std::string&>()};
+                },
+            },
+            Input(name).member);
         After_write(s, name);
     }
     Set_named_inputs(s, named);
+}
+
+bool Take_number(ConnectionState& s, const StateField& field, double value) {
+    if (!field.is_input) {
+        return false;
+    }
+    if (const auto* number = std::get_if<float ConnectionState::*>(&field.member); number && Fits_float(value)) {
+        s.*(*number) = static_cast<float>(value);
+        return true;
+    }
+    if (const auto* whole = std::get_if<std::int16_t ConnectionState::*>(&field.member); whole && Fits_int16(value)) {
+        s.*(*whole) = static_cast<std::int16_t>(value);
+        After_write(s, field.name);
+        return true;
+    }
+    return false;
+}
+
+bool Take_flag(ConnectionState& s, const StateField& field, bool value) {
+    const auto* flag = std::get_if<bool ConnectionState::*>(&field.member);
+    if (!field.is_input || flag == nullptr) {
+        return false;
+    }
+    s.*(*flag) = value;
+    return true;
+}
+
+bool Take_text(ConnectionState& s, const StateField& field, std::string_view value) {
+    if (!field.is_input) {
+        return false;
+    }
+    return std::visit(Overloaded{
+                          [](float ConnectionState::*) { return false; },
+                          [](std::int16_t ConnectionState::*) { return false; },
+                          [](bool ConnectionState::*) { return false; },
+                          [](std::string_view ConnectionState::*) { return false; },
+                          [&](auto member) {
+                              s.*member = value;
+                              return true;
+                          },
+                      },
+                      field.member);
 }
 
 } // namespace tarnvik

@@ -2,10 +2,12 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include <nlohmann/json_fwd.hpp>
 
 #include "calc/GlobalParameter.h"
+#include "calc/StateFields.h"
 
 namespace tarnvik {
 
@@ -16,10 +18,16 @@ void Set_input(ConnectionState& s, const std::string& name, const std::string& v
 
 // A batch line. A key that stands in an object twice is refused: nobody knows which was meant.
 // Errors: throws UsageError, in words of the tool's own.
-nlohmann::ordered_json Parse_line(const std::string& line);
+nlohmann::ordered_json Parse_line(std::string_view line);
 
 // Every member of the object, in its order, and then its inputs by name (check/Named_inputs.h), together. Errors:
 // throws UsageError.
 void Set_inputs(ConnectionState& s, const nlohmann::ordered_json& inputs);
+
+// The same writes of one value by its kind. False, with nothing written, where the field is no input or does not take
+// the value.
+bool Take_number(ConnectionState& s, const StateField& field, double value);
+bool Take_flag(ConnectionState& s, const StateField& field, bool value);
+bool Take_text(ConnectionState& s, const StateField& field, std::string_view value);
 
 } // namespace tarnvik

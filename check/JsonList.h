@@ -39,10 +39,12 @@ public:
         }
         first_ = false;
     }
+    // The names are the program's own: nothing in them has to be escaped.
     void Name(std::string_view name) {
-        Next();
-        Append_json(json_, name);
-        json_ += ':';
+        json_ += first_ ? "\"" : ",\"";
+        first_ = false;
+        json_ += name;
+        json_ += "\":";
     }
     template <class Value> void Member(std::string_view name, const Value& value) {
         Name(name);

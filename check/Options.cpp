@@ -2,7 +2,9 @@
 
 #include <algorithm>
 #include <array>
+#include <charconv>
 #include <string_view>
+#include <system_error>
 
 #include "calc/StateFields.h"
 #include "check/Lists.h"
@@ -58,6 +60,7 @@ opened and checked.
   --strict           fail also where distances do not fit or a check was not made;
                      refuse inputs outside their ranges and impossible pairs
   --batch            read inputs as JSON Lines from standard input, one result a line
+  --jobs N           check the lines of a batch on N threads; results stay in order
   --sweep NAME=FROM:TO:STEP
                      verdicts over a range of an input, as CSV, or JSON with --json;
                      two of them give a grid
@@ -159,6 +162,15 @@ void Set_fields(Options& options, const std::string& list) {
     options.json = true;
 }
 
+void Set_jobs(Options& options, const std::string& value) {
+    constexpr int most = 256;
+    const char* const end = value.data() + value.size();
+    const auto [stop, error] = std::from_chars(value.data(), end, options.jobs);
+    if (error != std::errc{} || stop != end || options.jobs < 1 || options.jobs > most) {
+        throw UsageError{"--jobs: expected a whole number from 1 to 256, got " + Quoted(value)};
+    }
+}
+
 // An option, what it expects as its value (null: it takes none) and what it does.
 struct OptionRow {
     std::string_view name;
@@ -176,6 +188,7 @@ constexpr std::array option_rows{
     OptionRow{"--with",     "a list of groups", Add_groups},
     OptionRow{"--fields",   "a list of names",  Set_fields},
     OptionRow{"--batch",    nullptr,            [](Options& o, const std::string&) { o.batch = o.json = true; }},
+    OptionRow{"--jobs",     "a whole number",   Set_jobs},
     OptionRow{"--strict",   nullptr,            [](Options& o, const std::string&) { o.strict = true; }},
     OptionRow{"--sweep",    "NAME=FROM:TO:STEP", [](Options& o, const std::string& value) { o.sweep.push_back(Parse_sweep(value)); }},
     OptionRow{"--plot",     "a file",           [](Options& o, const std::string& value) { o.plot = value; }},

@@ -19,6 +19,7 @@ struct Options {
     std::optional<std::string> list; // --list
     bool json{};
     bool batch{};
+    int jobs{1}; // --jobs: threads of a batch
     bool strict{};
     bool help{};
     bool version{};

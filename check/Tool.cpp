@@ -6,19 +6,18 @@
 #include <string_view>
 #include <utility>
 
-#include <nlohmann/json.hpp>
-
 #include "calc/RuntimeFault.h"
+#include "check/Batch.h"
 #include "check/Inputs.h"
 #include "check/Lists.h"
 #include "check/Plot.h"
+#include "check/Recording.h"
 #include "check/Status.h"
 #include "check/Summary.h"
 #include "check/Validation.h"
 #include "data/SafeWrite.h"
 #include "data/SetupFile.h"
 #include "report/PrintReport.h"
-#include "report/Recorder.h"
 
 namespace tarnvik {
 
@@ -39,7 +38,8 @@ int Tool::Run(const std::filesystem::path& folder) {
         return exit_holds;
     }
     if (options_.batch) {
-        return Batch();
+        Set_all();
+        return Run_batch(options_, *s_, in_, out_, err_);
     }
     if (options_.projects.empty()) {
         Set_all();
@@ -120,7 +120,8 @@ int Tool::One(const std::string& project) {
             remarks_.checks = judgement;
         }
         std::string json;
-        Append_result(json, options_, project, *s_, session_.Shown(), result, messages_, Recording(), remarks_);
+        Append_result(json, options_, project, *s_, session_.Shown(), result, messages_, Recording(session_, clock_),
+                      remarks_);
         out_ << json << "\n";
     } else {
         out_ << Summary(project, *s_, result, messages_) << Checks_summary(judgement);
@@ -206,18 +207,6 @@ int Tool::Write_plot(const std::vector<SweepPoint>& points) {
 
 // ---------------------------------------------------------------------------------------------------------------------
 
-// The report of the state as it stands, recorded.
-RecordReport Tool::Recording() {
-    return [this] {
-        Recorder recorder;
-        try {
-            session_.Print(recorder, clock_.Now());
-        } catch (const RuntimeFault&) { // NOLINT(bugprone-empty-catch): a print that fails ends where it fails
-        }
-        return std::move(recorder.calls);
-    };
-}
-
 int Tool::Write_report(const PassResult& result) {
     if (result.end != PassEnd::normal) {
         err_ << "tarnvik-check: " << *options_.report << ": not written, the check was stopped\n";
@@ -242,92 +231,6 @@ int Tool::Save() {
         return exit_usage;
     }
     return exit_holds;
-}
-
-// ---------------------------------------------------------------------------------------------------------------------
-// Batch
-
-using Json = nlohmann::ordered_json;
-
-int Tool::Batch() {
-    Set_all();
-    const ConnectionValues fresh = *s_;
-    int status = exit_holds;
-    std::string line;
-    std::string json;
-    for (long number = 1; out_ && std::getline(in_, line); ++number) {
-        static_cast<ConnectionValues&>(*s_) = fresh; // the tables never change in a batch
-        session_.Shown() = {};
-        if (line.find_first_not_of(" \t\r") == std::string::npos) {
-            continue;
-        }
-        json.clear();
-        status = Worse(status, Line(line, number, json));
-        json += '\n';
-        out_ << json;
-        if (in_.rdbuf()->in_avail() <= 0) { // a caller that waits for each answer gets it
-            out_.flush();
-        }
-    }
-    if (in_.bad()) {
-        throw UsageError{"standard input cannot be read"};
-    }
-    return status;
-}
-
-int Tool::Line(const std::string& line, long number, std::string& json) {
-    try {
-        const PassResult result = Calculate_line(Parse_line(line));
-        if (options_.checks) {
-            remarks_.checks = judge_.Judge_results(*s_);
-        }
-        Append_result(json, options_, {}, *s_, session_.Shown(), result, messages_, Recording(), remarks_);
-        const int status = Status(*s_, result);
-        return options_.strict ? Strict_status(status, judge_.Judge_results(*s_)) : status;
-    } catch (const UsageError& error) {
-        return Bad_line(json, number, error.text);
-    }
-}
-
-// An object of inputs, or several that are applied one after the other; the result is that of the last.
-PassResult Tool::Calculate_line(const Json& inputs) {
-    judge_.Begin();
-    if (!inputs.is_array()) {
-        return Calculate(inputs, true);
-    }
-    if (inputs.empty()) {
-        throw UsageError{"expected at least one object of inputs, got []"};
-    }
-    PassResult result;
-    for (std::size_t i = 0; i < inputs.size(); ++i) {
-        try {
-            result = Calculate(inputs[i], i == 0);
-        } catch (const UsageError& error) {
-            throw inputs.size() > 1 ? UsageError{"element " + std::to_string(i + 1) + ": " + error.text} : error;
-        }
-    }
-    return result;
-}
-
-PassResult Tool::Calculate(const Json& inputs, bool first) {
-    messages_.messages.clear();
-    Set_inputs(*s_, inputs);
-    remarks_ = {Invalid_inputs(*s_), std::nullopt};
-    if (options_.strict && !remarks_.warnings.empty()) {
-        throw UsageError{remarks_.warnings.front()};
-    }
-    const PassResult result =
-        session_.First_pass(options_.with.empty() ? Session::Showing::nothing : Session::Showing::screen);
-    judge_.After_pass(*s_, result, first || inputs.contains("man_he") || inputs.contains("Man_he_on"));
-    return result;
-}
-
-int Tool::Bad_line(std::string& json, long number, const std::string& error) {
-    json = "{\"line\":" + std::to_string(number) + ",\"error\":";
-    Append_json(json, error);
-    json += '}';
-    err_ << "tarnvik-check: line " << number << ": " << error << "\n";
-    return exit_usage;
 }
 
 } // namespace tarnvik

@@ -6,8 +6,6 @@
 #include <memory>
 #include <string>
 
-#include <nlohmann/json_fwd.hpp>
-
 #include "calc/GlobalParameter.h"
 #include "calc/pass/Main_beregn.h"
 #include "check/Checks.h"
@@ -42,13 +40,6 @@ private:
     bool Acceptable(const std::string& project);
     int Write_report(const PassResult& result);
     int Save();
-    RecordReport Recording();
-
-    int Batch();
-    int Line(const std::string& line, long number, std::string& json);
-    PassResult Calculate_line(const nlohmann::ordered_json& inputs);
-    PassResult Calculate(const nlohmann::ordered_json& inputs, bool first);
-    int Bad_line(std::string& json, long number, const std::string& error);
 
     Options options_;
     std::istream& in_;

@@ -30,10 +30,10 @@ std::filesystem::path Readable_folder(const DataFolder& data);
 
 // The folders of the window.
 struct Folders {
-    std::filesystem::path data;    // the tables and the setup file
-    std::filesystem::path program; // the program itself; the manual lies below it
-    std::filesystem::path state;   // what a run keeps for the next one; empty where there is no place for it
-    bool data_is_new{};            // filled by this start
+    std::filesystem::path App_path; // the tables and the setup file
+    std::filesystem::path program;  // the program itself; the manual lies below it
+    std::filesystem::path state;    // what a run keeps for the next one; empty where there is no place for it
+    bool data_is_new{};             // filled by this start
 };
 
 // The folder "tarnvik" in the user's state folder, by the rules of the XDG base directories: $XDG_STATE_HOME where that

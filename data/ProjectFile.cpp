@@ -116,13 +116,29 @@ private:
     }
     template <class Byte> void Bytes(Byte* to, std::size_t count) {
         static_assert(sizeof(Byte) == 1);
-        file_.read(reinterpret_cast<char*>(to), static_cast<std::streamsize>(count));
-        if (static_cast<std::size_t>(file_.gcount()) != count) {
+        while (count > 0) {
+            if (rest_.empty()) {
+                Read_block();
+            }
+            const std::size_t part = std::min(count, rest_.size());
+            std::copy_n(rest_.data(), part, reinterpret_cast<char*>(to));
+            rest_.remove_prefix(part);
+            to += part;
+            count -= part;
+        }
+    }
+    // A file has some thousand fields, most of them of two or four bytes: a stream takes long to give each by itself.
+    void Read_block() {
+        file_.read(block_.data(), static_cast<std::streamsize>(block_.size()));
+        rest_ = {block_.data(), static_cast<std::size_t>(file_.gcount())};
+        if (rest_.empty()) {
             Raise(fault_bad_record_length, where);
         }
     }
 
     std::istream& file_;
+    std::array<char, 16384> block_{};
+    std::string_view rest_; // of the block
 };
 
 // The fields of the records in the order of the file, for the writer and for the reader alike.

@@ -121,7 +121,12 @@ using Table = std::vector<PositionedText>;
 
 void Print(Table& table, double x, double y, std::string_view text, bool bold = false,
            std::uint32_t fore = colour_black) {
-    table.push_back({static_cast<float>(x), static_cast<float>(y), std::string{text}, bold, fore});
+    PositionedText& printed = table.emplace_back(); // in its place: a text is not copied about
+    printed.x = static_cast<float>(x);
+    printed.y = static_cast<float>(y);
+    printed.text = text;
+    printed.bold = bold;
+    printed.fore = fore;
 }
 
 void Print_distance(Table& table, std::string_view label, std::string_view rule, float value, double y) {

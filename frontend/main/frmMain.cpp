@@ -63,7 +63,7 @@ QMainWindow& frmMain::Prepared() {
 void frmMain::Load() {
     s_.Loading = true;
     projects_.Load_recent();
-    const StartReport report = session_.Start(folders_.data);
+    const StartReport report = session_.Start(folders_.App_path);
     StartValue_controls();
     lists_.WritefrmCboBulldog();
     lists_.WritefrmCboMatProf();
@@ -80,13 +80,13 @@ void frmMain::Load() {
         services_.boxes.Show((Is_english(s_)
                                   ? "The data files were copied to your own folder, where they can be edited:\n"
                                   : "Datafilene er kopiert til din egen mappe, der de kan endres:\n") +
-                                 folders_.data.string(),
+                                 folders_.App_path.string(),
                              box_plain);
     }
     if (report.setup) {
-        services_.boxes.Show(Setup_problem_text(*report.setup, folders_.data, Is_english(s_)), box_exclamation);
+        services_.boxes.Show(Setup_problem_text(*report.setup, folders_.App_path, Is_english(s_)), box_exclamation);
     }
-    if (const std::string finding = Start_finding(s_, first, folders_.data); !finding.empty()) {
+    if (const std::string finding = Start_finding(s_, first, folders_.App_path); !finding.empty()) {
         services_.boxes.Show(finding, box_exclamation);
     }
     session_.Note_saved(boxes_.Names());

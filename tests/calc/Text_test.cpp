@@ -4,6 +4,7 @@
 
 #include <bit>
 #include <charconv>
+#include <cmath>
 
 #include "tests/support/Calculation.h"
 
@@ -302,6 +303,36 @@ TEST(ShortText, keeps_what_fits_and_drops_the_rest) {
         text.Append('x');
     }
     EXPECT_EQ(text.View().size(), 64U);
+}
+
+// Whole numbers up to 2^62 are printed as integers, larger ones by all digits of the float.
+TEST(Format, large_numbers) {
+    EXPECT_EQ(Format(0x1p39F, "0.0").View(), "549755813888.0");
+    EXPECT_EQ(Format(0x1p40F, "0.0").View(), "1099511627776.0");
+    EXPECT_EQ(Format(0x1p61F, "0").View(), "2305843009213693952");
+    EXPECT_EQ(Format(0x1p62F, "0").View(), "4611686018427387904");
+    EXPECT_EQ(Format(-0x1p70F, "0").View(), "-1180591620717411303424");
+}
+
+// The digits of a short number are read exactly, those of a long one are rounded once.
+TEST(Str_to_num, short_and_long_numbers_are_the_nearest_float) {
+    EXPECT_EQ(Str_to_num("123456.7"), 123456.7F);
+    EXPECT_EQ(Str_to_num("-.5"), -0.5F);
+    EXPECT_EQ(Str_to_num("5."), 5.0F);
+    EXPECT_EQ(Str_to_num("0.1000000000000"), 0.1F);
+    EXPECT_EQ(Str_to_num("0.10000000000000000000"), 0.1F);
+    EXPECT_EQ(Str_to_num("123456789012345"), 123456789012345.0F);
+    EXPECT_EQ(Str_to_num("16777217.0000001"), 16777218.0F); // just above the middle of two floats
+    EXPECT_TRUE(std::signbit(Str_to_num("-0.0")));
+}
+
+TEST(Shortest, whole_numbers_have_an_exponent_where_it_is_shorter) {
+    EXPECT_EQ(Shortest(0.0F).View(), "0");
+    EXPECT_EQ(Shortest(-7.0F).View(), "-7");
+    EXPECT_EQ(Shortest(10000.0F).View(), "10000");
+    EXPECT_EQ(Shortest(99999.0F).View(), "99999");
+    EXPECT_EQ(Shortest(100000.0F).View(), "1e+05");
+    EXPECT_EQ(Shortest(123456.0F).View(), "123456");
 }
 
 } // namespace

@@ -19,6 +19,7 @@ TEST(Options, nothing_given_nothing_set) {
     EXPECT_TRUE(options.set.empty());
     EXPECT_FALSE(options.json);
     EXPECT_FALSE(options.batch);
+    EXPECT_EQ(options.jobs, 1);
     EXPECT_FALSE(options.help);
     EXPECT_FALSE(options.version);
     EXPECT_TRUE(options.with.empty());
@@ -30,7 +31,7 @@ TEST(Options, nothing_given_nothing_set) {
 TEST(Options, every_option) {
     const Options options =
         Parse_options({"--data", "dir", "--lang", "Nor", "--set", "P=1", "--set", "Id=a=b", "--set", "Id=", "--with",
-                       "screen", "--fields", "P,alp", "--save", "file", "a.tnvik"});
+                       "screen", "--fields", "P,alp", "--save", "file", "--jobs", "4", "a.tnvik"});
     EXPECT_EQ(options.data, "dir");
     EXPECT_EQ(options.lang, "Nor");
     const std::vector<std::pair<std::string, std::string>> set{{"P", "1"}, {"Id", "a=b"}, {"Id", ""}};
@@ -39,6 +40,7 @@ TEST(Options, every_option) {
     EXPECT_EQ(options.with, (Arguments{"screen"}));
     EXPECT_EQ(options.fields, (Arguments{"P", "alp"}));
     EXPECT_EQ(options.save, "file");
+    EXPECT_EQ(options.jobs, 4);
     EXPECT_EQ(options.projects, (Arguments{"a.tnvik"}));
     EXPECT_TRUE(Parse_options({"--json"}).json);
     EXPECT_TRUE(Parse_options({"--batch"}).batch);

@@ -5,6 +5,7 @@
 #include <cerrno>
 #include <csignal>
 #include <fcntl.h>
+#include <malloc.h>
 #include <poll.h>
 #include <sys/resource.h>
 #include <sys/wait.h>
@@ -50,9 +51,11 @@ struct ProgramRun : ToolRun {
 // Runs the program with its streams in files, so that neither side ever waits for the other.
 class Program : public testing::Test {
 protected:
-    ProgramRun Start(const std::vector<std::string>& arguments, const std::string& input = {},
-                     const std::string& output = {}, const std::string& path = program) {
+    ProgramRun Start(const std::vector<std::string>& arguments, std::string input = {}, const std::string& output = {},
+                     const std::string& path = program) {
         test::Write_file(folder / "in", input);
+        input = {};
+        malloc_trim(0); // a process begins with the memory of its parent, which would count as its own
         const std::string out = output.empty() ? (folder / "out").string() : output;
         const pid_t child = fork();
         if (child == 0) {
@@ -183,16 +186,21 @@ TEST_F(Program, memory_does_not_grow_with_the_lines_of_a_batch) {
         }
         return text;
     };
-    const ProgramRun few = Start({"--batch", "--fields", "P"}, lines(1000));
-    const ProgramRun many = Start({"--batch", "--fields", "P"}, lines(100000));
-    EXPECT_EQ(std::count(few.out.begin(), few.out.end(), '\n'), 1000);
-    EXPECT_EQ(std::count(many.out.begin(), many.out.end(), '\n'), 100000);
-    // The lines take 2.4 MB and their results 5 MB: what held them would show.
-    EXPECT_LT(many.peak_kilobytes, few.peak_kilobytes + 2048);
+    for (const char* jobs : {"1", "2"}) {
+        const ProgramRun few = Start({"--batch", "--fields", "P", "--jobs", jobs}, lines(10000));
+        const ProgramRun many = Start({"--batch", "--fields", "P", "--jobs", jobs}, lines(200000));
+        EXPECT_EQ(std::count(few.out.begin(), few.out.end(), '\n'), 10000);
+        EXPECT_EQ(std::count(many.out.begin(), many.out.end(), '\n'), 200000);
+        // The lines take 4.8 MB and their results 10 MB: what held them would show.
+        EXPECT_LT(many.peak_kilobytes, few.peak_kilobytes + 2048);
+    }
 }
 
+class ProgramJobs : public Program, public testing::WithParamInterface<const char*> {};
+INSTANTIATE_TEST_SUITE_P(jobs, ProgramJobs, testing::Values("1", "2"));
+
 // A caller that waits for each answer before it asks again.
-TEST_F(Program, every_line_is_answered_at_once) {
+TEST_P(ProgramJobs, every_line_is_answered_at_once) {
     std::array<int, 2> to{};
     std::array<int, 2> from{};
     ASSERT_EQ(pipe(to.data()), 0);
@@ -204,12 +212,13 @@ TEST_F(Program, every_line_is_answered_at_once) {
         for (const int end : {to[0], to[1], from[0], from[1]}) {
             close(end);
         }
-        Exec(program, {"--batch", "--fields", "P"});
+        Exec(program, {"--batch", "--fields", "P", "--jobs", GetParam()});
     }
     close(to[0]);
     close(from[1]);
     for (int i = 1; i <= 3; ++i) {
-        const std::string line = "{\"P\":" + std::to_string(i) + "}\n";
+        // With the begin of the next line behind it.
+        const std::string line = (i == 1 ? "{" : "") + ("\"P\":" + std::to_string(i)) + "}\n{";
         ASSERT_EQ(write(to[1], line.data(), line.size()), static_cast<ssize_t>(line.size()));
         std::string answer;
         while (answer.empty() || answer.back() != '\n') {
@@ -227,6 +236,29 @@ TEST_F(Program, every_line_is_answered_at_once) {
     waitpid(child, &status, 0);
     close(from[0]);
     EXPECT_TRUE(WIFEXITED(status));
+}
+
+// Where what paints lies beside the tool, and where it does not.
+TEST_F(Program, paints_with_the_program_beside_it) {
+    fs::copy_file(program, folder / "tarnvik-check");
+    test::Write_file(folder / "tarnvik.folder", std::string{TARNVIK_DATA_DIR} + "\n");
+    const ProgramRun alone =
+        Start({"--report", (folder / "r.pdf").string()}, {}, {}, (folder / "tarnvik-check").string());
+    EXPECT_EQ(alone.status, 2);
+    EXPECT_NE(alone.err.find("needs tarnvik-paint beside the program"), std::string::npos);
+#ifdef TARNVIK_WITH_PAINTER
+    const ProgramRun run = Start({"--set", "P=1", "--report", (folder / "r.pdf").string()});
+    EXPECT_EQ(run.err, "");
+    EXPECT_EQ(run.status, 0);
+    EXPECT_EQ(test::Read_file(folder / "r.pdf").substr(0, 5), "%PDF-");
+    const ProgramRun refused = Start({"--set", "P=1", "--report", (folder / "no" / "r.pdf").string()});
+    EXPECT_EQ(refused.status, 2);
+    EXPECT_EQ(refused.err,
+              "tarnvik-check: " + (folder / "no" / "r.pdf").string() + ": cannot be written: path not found\n");
+    const ProgramRun pictures = Start({"--pictures", (folder / "p").string()});
+    EXPECT_EQ(pictures.status, 0);
+    EXPECT_TRUE(fs::exists(folder / "p" / "frmMain" / "Cmd_type(0).png"));
+#endif
 }
 
 TEST_F(Program, a_saved_project_is_the_same_from_any_folder) {

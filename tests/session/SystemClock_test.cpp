@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <cstdlib>
+#include <ostream>
 #include <string>
 
 #include "tests/support/Regions.h"
@@ -24,6 +25,10 @@ struct RegionRow {
     char decimal_sign;
     char date_sign;
 };
+
+void PrintTo(const RegionRow& row, std::ostream* out) {
+    *out << row.name;
+}
 
 class Regions : public testing::TestWithParam<RegionRow> {};
 

@@ -7,6 +7,7 @@
 #include <QStyleOptionFocusRect>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 #include "frontend/controls/ReadLines.h"
@@ -42,9 +43,15 @@ void Draw_focus(QPainter& painter, const QWidget& widget, const QRect& rect) {
     widget.style()->drawPrimitive(QStyle::PE_FrameFocusRect, &focus, &painter, &widget);
 }
 
-// What a text begins with.
-QString Blanks(const PositionedText& row) {
-    return {static_cast<qsizetype>(std::min(row.text.find_first_not_of(' '), row.text.size())), QLatin1Char(' ')};
+bool Same(const PositionedText& one, const PositionedText& other) {
+    return one.x == other.x && one.y == other.y && one.text == other.text && one.bold == other.bold &&
+           one.fore == other.fore;
+}
+
+// Of what a text begins with.
+double Blank_width(const PositionedText& row, const QFontMetricsF& metrics) {
+    const std::size_t blanks = std::min(row.text.find_first_not_of(' '), row.text.size());
+    return blanks == 0 ? 0.0 : metrics.horizontalAdvance(QString{static_cast<qsizetype>(blanks), QLatin1Char(' ')});
 }
 
 } // namespace
@@ -136,6 +143,9 @@ void FocusArea::paintEvent(QPaintEvent* /*event*/) {
 }
 
 void TableArea::Set_rows(std::span<const PositionedText> rows) {
+    if (std::ranges::equal(rows, rows_, Same)) {
+        return;
+    }
     const bool told = QAccessible::isActive();
     const QStringList former = told ? Lines() : QStringList{};
     rows_.assign(rows.begin(), rows.end());
@@ -172,8 +182,8 @@ std::vector<TableArea::Placed> TableArea::Place_rows() const {
         double end = width() - 1.0;
         for (const PositionedText& other : rows_) {
             if (other.x > row.x && std::fabs(other.y - row.y) < off_row) {
-                const QFontMetricsF& beside = other.bold ? bold : plain;
-                end = std::min(end, static_cast<double>(other.x) * x_unit + beside.horizontalAdvance(Blanks(other)));
+                const double blanks = Blank_width(other, other.bold ? bold : plain);
+                end = std::min(end, static_cast<double>(other.x) * x_unit + blanks);
             }
         }
         Placed place{};
@@ -195,13 +205,15 @@ std::vector<TableArea::Placed> TableArea::Place_rows() const {
 void TableArea::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter{this};
     painter.fillRect(rect(), Qt::white);
+    const std::array fonts{Row_font(false), Row_font(true)};
+    const std::array ascents{QFontMetricsF{fonts[0]}.ascent(), QFontMetricsF{fonts[1]}.ascent()};
     const std::vector<Placed> placed = Place_rows();
     for (std::size_t i = 0; i < rows_.size(); ++i) {
-        const QFont row_font = Row_font(rows_[i].bold);
-        painter.setFont(row_font);
+        const std::size_t weight = rows_[i].bold ? 1 : 0;
+        painter.setFont(fonts[weight]);
         painter.setPen(To_colour(rows_[i].fore));
         painter.save();
-        painter.translate(placed[i].room.left(), std::round(placed[i].room.top() + QFontMetricsF{row_font}.ascent()));
+        painter.translate(placed[i].room.left(), std::round(placed[i].room.top() + ascents[weight]));
         painter.scale(placed[i].narrowing, 1.0);
         painter.drawText(QPointF{0.0, 0.0}, Q(rows_[i].text));
         painter.restore();

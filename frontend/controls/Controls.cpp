@@ -35,22 +35,27 @@ QRectF Frame::Title_room() const {
     return {left, 0.0, width() - left - right, metrics.height()};
 }
 
-void Frame::paintEvent(QPaintEvent* /*event*/) {
-    QPainter painter{this};
+void Frame::paintEvent(QPaintEvent* event) {
     const QFontMetricsF metrics{font()};
     const double top = title().isEmpty() ? 0.5 : std::round(metrics.height() / 2.0) + 0.5;
     const double radius = Scaled(3, logicalDpiX());
+    // What changes inside does not touch border and title.
+    const double below_title = std::max(top + radius, metrics.height() + 1.0);
+    if (QRectF{rect()}.adjusted(radius, below_title, -radius, -radius).contains(event->rect())) {
+        return;
+    }
+    QPainter painter{this};
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(border_colour);
     const QRectF title_room = Title_room();
     if (!title().isEmpty()) {
         const SetText set = Set_text(title(), font(), title_room.size());
         const double gap = Scaled(2, logicalDpiX());
-        QPainterPath outside;
+        QPainterPath outside; // all but the title: a point in both is out
         outside.addRect(QRectF{rect()});
-        QPainterPath hole;
-        hole.addRect(QRectF{title_room.left() - gap, 0.0, set.width * set.narrowing + 2.0 * gap, title_room.height()});
-        painter.setClipPath(outside - hole);
+        outside.addRect(
+            QRectF{title_room.left() - gap, 0.0, set.width * set.narrowing + 2.0 * gap, title_room.height()});
+        painter.setClipPath(outside);
     }
     painter.drawRoundedRect(QRectF{0.5, top, width() - 1.0, height() - top - 0.5}, radius, radius);
     painter.setClipping(false);

@@ -1,5 +1,6 @@
 #include "frontend/controls/Descriptions.h"
 
+#include <QHash>
 #include <QWidget>
 
 #include <array>
@@ -241,8 +242,12 @@ void Describe(const QWidget& within, std::string_view window, bool english, cons
     const auto text = [&](const Words& words) {
         return Q(words.In(english)).replace(QLatin1String("{1}"), member_1).replace(QLatin1String("{2}"), member_2);
     };
+    QHash<QString, QWidget*> controls;
+    for (QWidget* const control : within.findChildren<QWidget*>()) {
+        controls.insert(control->objectName(), control);
+    }
     for (const Description& row : descriptions) {
-        QWidget* const control = row.window == window ? within.findChild<QWidget*>(Q(row.control)) : nullptr;
+        QWidget* const control = row.window == window ? controls.value(Q(row.control)) : nullptr;
         if (control != nullptr) {
             control->setAccessibleName(text(row.name));
             control->setToolTip(text(row.tip));

@@ -79,12 +79,11 @@ void Draw_text(QPainter& painter, const QString& text, const QFont& font, const 
     }
     painter.setFont(font);
     for (const QString& line : set.lines) {
-        const double width = metrics.horizontalAdvance(line) * set.narrowing;
         double x = room.left();
         if (alignment.testFlag(Qt::AlignHCenter)) {
-            x += (room.width() - width) / 2.0;
+            x += (room.width() - metrics.horizontalAdvance(line) * set.narrowing) / 2.0;
         } else if (alignment.testFlag(Qt::AlignRight)) {
-            x += room.width() - width;
+            x += room.width() - metrics.horizontalAdvance(line) * set.narrowing;
         }
         painter.save();
         painter.translate(x, std::round(y + metrics.ascent()));

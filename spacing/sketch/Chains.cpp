@@ -9,7 +9,7 @@ namespace tarnvik {
 namespace {
 
 constexpr double chain_gap = 10.0; // from the last fastener or the edge to a dimension line
-constexpr double member_gap = 5.0; // from the other member
+constexpr double member_gap = 7.0; // from the other member
 constexpr double bolt_gap = 1.0;   // from a fastener to its extension
 constexpr double edge_gap = 2.0;   // from an edge or an end to its extension
 constexpr double beside = 12.0;    // so near to dimensions a corner of the other member counts
@@ -102,6 +102,19 @@ Along Measured_along(const Joint& joint, const Member& member, double side, int 
     return along;
 }
 
+// From where the line beyond a member's end is extended, across it on that side: from its corner, or from that of the
+// other one where the end is flush with an edge of it, which is its own line up to there.
+double Extended_from(const Joint& joint, std::size_t k, double side) {
+    const Member& own = joint.members[k];
+    const Member& other = joint.members[1 - k];
+    double from = side > 0.0 ? own.First_edge() : -own.Other_edge();
+    const double end = Dot(own.At(own.end_u, own.Axis()), other.m);
+    if (!joint.oblique && !other.through && (Same(end, other.First_edge()) || Same(end, other.Other_edge()))) {
+        from = std::max(from, side * Dot(other.At(other.end_u, 0.0), own.m));
+    }
+    return side * (from + edge_gap);
+}
+
 } // namespace
 
 double Reach_over(const Member& member, const Member& other, double away) {
@@ -133,6 +146,7 @@ Chain Chain_across(const Joint& joint, std::size_t member, const Place& place, M
     const bool outside = place.behind && !own.through; // beyond the end the edges need a line as well
     Chain chain;
     chain.across = true;
+    chain.on_wood = !outside;
     chain.outward = away * own.u;
     const auto last = static_cast<std::size_t>(listed.across);
     for (std::size_t i = 0; i <= last; ++i) {
@@ -191,7 +205,7 @@ std::optional<Chain> Chain_along(const Joint& joint, std::size_t member, const P
         if (spacings == 0 || !Same(last_u, Dot(along.row.back(), own.u))) {
             from_fastener(along.last);
         }
-        extend(own.end_u, (place.first ? own.First_edge() : own.Other_edge()) + side * edge_gap);
+        extend(own.end_u, Extended_from(joint, member, side));
         chain.dimensions.push_back(Make_dimension(distance, {tick(last_u), tick(own.end_u)}, chain.outward));
         chain.dimensions.back().loaded = own.end_loaded;
     }

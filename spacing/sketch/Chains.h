@@ -27,6 +27,7 @@ struct Chain {
     std::vector<Dimension> dimensions; // one at least, on one line
     Point outward;                     // side of the labels, where there is room for them
     bool across{};                     // across the member, otherwise along it
+    bool on_wood{};                    // on the member, not beyond its end or outside its edges
     std::vector<Segment> extensions;   // from fasteners, edges and ends to the ends of the dimensions
 };
 

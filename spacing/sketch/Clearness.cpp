@@ -1,6 +1,7 @@
 #include "spacing/sketch/Clearness.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace tarnvik {
 
@@ -51,6 +52,28 @@ bool Occupied::Takes_line(const Segment& line) const {
                         [&](Point fastener) { return Nearer(fastener, line, bolt_radius + line_to_fastener); });
 }
 
+bool Occupied::Takes_dimension(const Segment& line) const {
+    const Point d = line.b - line.a;
+    const Point direction = (1.0 / Length(d)) * d;
+    const Segment head_a{line.a, line.a + arrowhead * direction};
+    const Segment head_b{line.b, line.b - arrowhead * direction};
+    // The edge from which or to which is measured: it is square to the line, and the tip stands on it.
+    const auto own = [&](const Segment& edge) {
+        constexpr double exact = 1e-6;
+        return std::fabs(Dot(edge.b - edge.a, direction)) < exact &&
+               (Nearer(line.a, edge, exact) || Nearer(line.b, edge, exact));
+    };
+    const auto off = [&](const std::vector<Segment>& edges, double gap) {
+        return std::none_of(edges.begin(), edges.end(), [&](const Segment& edge) {
+            return (Nearer(head_a, edge, gap) || Nearer(head_b, edge, gap)) && !own(edge);
+        });
+    };
+    constexpr double gap = head_half_width * arrowhead + head_to_edge;
+    return Takes_line(line) && off(edges_, gap + medium / 2.0) && off(loaded_edges_, gap + thick / 2.0) &&
+           std::none_of(loaded_edges_.begin(), loaded_edges_.end(),
+                        [&](const Segment& edge) { return Nearer(line, edge, thick / 2.0) && !own(edge); });
+}
+
 bool Occupied::Takes_extension(const Segment& extension) const {
     constexpr double own = bolt_radius + 2.0; // it begins so near to its own fastener
     return std::none_of(lines_.begin(), lines_.end(),
@@ -62,8 +85,7 @@ bool Occupied::Takes_extension(const Segment& extension) const {
            });
 }
 
-bool Occupied::Takes_grain(const Segment& line, double half_width) const {
-    const double gap = half_width + grain_to_anything;
+bool Occupied::Takes_sign(const Segment& line, double gap) const {
     for (const std::vector<Segment>* others : {&edges_, &loaded_edges_, &lines_, &extensions_}) {
         for (const Segment& other : *others) {
             if (Nearer(line, other, gap)) {

@@ -1,6 +1,8 @@
 #include "spacing/sketch/Composition.h"
 
 #include <algorithm>
+#include <cmath>
+#include <span>
 #include <utility>
 
 #include "spacing/Catalogue.h"
@@ -10,25 +12,29 @@ namespace tarnvik {
 
 namespace {
 
-constexpr double chain_step = 4.0; // from one place that is tried to the next
-constexpr int near_places = 4;
-constexpr int chain_places = 9;
+// Where a chain is tried, pixels farther out than usual. One along a member may stand nearer to its edge, where it
+// would cross the loaded edge of the other one farther out.
+constexpr std::array across_places{0.0, 4.0, 8.0, 12.0};
+constexpr std::array along_places{0.0, 4.0, 8.0, 12.0, -5.0};
+constexpr std::array far_places{0.0, 4.0, 8.0, 12.0, 16.0, 20.0, 24.0, 28.0, 32.0};
 constexpr double force_step = 5.0;
 constexpr int force_places = 8;
 
-constexpr double stub = 6.0;          // of a member, seen outside the other one
-constexpr double label_to_torn = 2.0; // and a dimension
+constexpr double stub = 6.0; // of a member, seen outside the other one
+constexpr double label_to_torn = 2.0;
+constexpr double head_to_torn = 6.0; // of a dimension
 
 // The chain at the first place that is clear; at the usual one, and false, where none is. A label past the end of its
 // dimension is better than a chain far off.
-template <class Make> bool Add_chain(Composition& all, Occupied& occupied, Make make) {
+template <class Make>
+bool Add_chain(Composition& all, Occupied& occupied, std::span<const double> near_places, Make make) {
     std::optional<Chain> usual = make(0.0);
     if (!usual) {
         return true; // no such distances
     }
     for (const bool past_ends : {false, true}) {
-        for (int place = 0; place < (past_ends ? chain_places : near_places); ++place) {
-            std::optional<Chain> chain = make(chain_step * place);
+        for (const double farther : past_ends ? std::span<const double>{far_places} : near_places) {
+            std::optional<Chain> chain = make(farther);
             if (Fit(*chain, occupied, past_ends)) {
                 Add(occupied, *chain);
                 all.chains.push_back(*std::move(chain));
@@ -49,7 +55,7 @@ bool Add_chains(Composition& all, Occupied& occupied, int case_row, const Places
     for (const bool across : {true, false}) {
         for (std::size_t k = 0; k < places.size(); ++k) {
             const MemberDistances own = k == 0 ? listed.a : listed.b;
-            clear = Add_chain(all, occupied,
+            clear = Add_chain(all, occupied, across ? std::span<const double>{across_places} : along_places,
                               [&](double farther) -> std::optional<Chain> {
                                   if (across) {
                                       return Chain_across(all.joint, k, places[k], own, farther);
@@ -64,23 +70,41 @@ bool Add_chains(Composition& all, Occupied& occupied, int case_row, const Places
 
 // As far as a member is seen: outside the other one, and beyond the dimensions that stand on it.
 void Include_dimensions(Reach& reach, const Member& member, const std::vector<Chain>& chains) {
-    const auto include = [&](Point p) {
+    const auto include = [&](Point p, double to_torn) {
         const double across = Dot(p, member.m);
-        if (across > member.Other_edge() - label_to_torn && across < member.First_edge() + label_to_torn) {
-            reach.far = std::max(reach.far, Dot(p, member.u) + label_to_torn + torn_wave);
-            reach.near = std::max(reach.near, -Dot(p, member.u) + label_to_torn + torn_wave);
+        if (across > member.Other_edge() - to_torn && across < member.First_edge() + to_torn) {
+            reach.far = std::max(reach.far, Dot(p, member.u) + to_torn + torn_wave);
+            reach.near = std::max(reach.near, -Dot(p, member.u) + to_torn + torn_wave);
         }
     };
     for (const Chain& chain : chains) {
         for (const Dimension& dimension : chain.dimensions) {
+            include(dimension.line.a, head_to_torn);
+            include(dimension.line.b, head_to_torn);
             const Rect& room = dimension.label_room;
-            for (const Point& p :
-                 {dimension.line.a, dimension.line.b, Point{room.left, room.low}, Point{room.right, room.low},
-                  Point{room.left, room.high}, Point{room.right, room.high}}) {
-                include(p);
+            for (const Point& p : {Point{room.left, room.low}, Point{room.right, room.low}, Point{room.left, room.high},
+                                   Point{room.right, room.high}}) {
+                include(p, label_to_torn);
             }
         }
     }
+}
+
+// As far as the dimensions across a member stand on its wood.
+Reach Column_of(const Joint& joint, std::size_t k, const std::vector<Chain>& chains) {
+    const Member& member = joint.members[k];
+    Reach column{0.0, 0.0};
+    for (const Chain& chain : chains) {
+        const bool own = chain.on_wood && std::fabs(Dot(chain.outward, member.u)) > 1.0 - 1e-9;
+        for (std::size_t i = 0; own && i < chain.dimensions.size(); ++i) {
+            const Rect& room = chain.dimensions[i].label_room;
+            const TextSize size{room.right - room.left, room.high - room.low};
+            const double u = Dot(chain.dimensions[i].label_at, member.u);
+            column.far = std::max(column.far, u + Span(size, member.u) / 2.0);
+            column.near = std::max(column.near, -u + Span(size, member.u) / 2.0);
+        }
+    }
+    return column;
 }
 
 // Tears a member where it has been seen far enough.
@@ -96,7 +120,7 @@ bool Add_grain(Composition& all, Occupied& occupied, std::array<Reach, 2>& reach
     bool clear = true;
     for (std::size_t k = 0; k < reaches.size(); ++k) {
         Include_dimensions(reaches[k], all.joint.members[k], all.chains);
-        all.grains[k] = Place_grain(all.joint, k, occupied, reaches[k]);
+        all.grains[k] = Place_grain(all.joint, k, occupied, Column_of(all.joint, k, all.chains), reaches[k]);
         Tear(all.joint.members[k], reaches[k]);
         clear = clear && all.grains[k];
     }

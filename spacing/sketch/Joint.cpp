@@ -17,7 +17,8 @@ constexpr double loaded_edge = 1.7;
 constexpr double line_distance = 1.0; // between two lines of fasteners, across the grain
 constexpr double short_end = 1.0;     // unloaded: the corners of an inclined end stay well inside the other member
 constexpr double flush_end = loaded_edge;
-constexpr double loaded_end = 2.2;
+constexpr double usual_end = 2.2; // loaded
+constexpr double collar_end = 2.5;
 
 // The first edge is the upper one; of an upright member the left one; of the rafter the outer one.
 // clang-format off
@@ -25,20 +26,20 @@ constexpr std::array<JointType, 5> joint_types{{
     //    leaves at  through  first edge
     // heel of a truss: top chord on bottom chord, the end of the bottom chord just outside the joint
     {'1', {  27.0,   false,   +90.0},
-          {   0.0,   false,   +90.0},   true,  true,  short_end},
+          {   0.0,   false,   +90.0},   true,  true,  short_end, usual_end},
     // inclined strut under a beam that runs through
     {'2', {   0.0,   true,    +90.0},
-          { -140.0,  false,   -90.0},   true,  false, short_end},
+          { -140.0,  false,   -90.0},   true,  false, short_end, usual_end},
     // collar beam on a rafter that runs through; inward is to the right
     {'3', {  35.0,   true,    +90.0},
-          {   0.0,   false,   +90.0},   true,  false, short_end},
+          {   0.0,   false,   +90.0},   true,  false, short_end, collar_end},
     // beam on a column
     {'4', {   0.0,   false,   +90.0},
-          { -90.0,   false,   -90.0},   false, false, flush_end},
+          { -90.0,   false,   -90.0},   false, false, flush_end, usual_end},
     // beam under a column
     {'5', {   0.0,   false,   +90.0},
-          {  90.0,   false,   +90.0},   false, false, flush_end},
-    //                                oblique, force on 1, unloaded end
+          {  90.0,   false,   +90.0},   false, false, flush_end, usual_end},
+    //                                oblique, force on 1, unloaded end, loaded end
 }};
 
 // Three cases of type 5 have the rule table of type 4, where a column pushes its beam up. In type 5 it pushes down, so
@@ -172,12 +173,12 @@ void Set_lines(Member& member, Point other, int lines, double step, double unit)
 }
 
 // The end, so far from the fastener that is nearest to it, and where the member is torn.
-void Set_ends(Member& member, const Joint& joint, double unloaded_end, double unit) {
+void Set_ends(Member& member, const Joint& joint, const JointType& of, double unit) {
     constexpr double beyond = 4000.0;
     member.near_u = -beyond;
     member.far_u = beyond;
     if (!member.through) {
-        const double end = member.end_loaded ? loaded_end : unloaded_end;
+        const double end = member.end_loaded ? of.loaded_end : of.unloaded_end;
         member.end_u = -joint.Farthest(-1.0 * member.u) - end * unit;
         member.near_u = member.end_u;
     }
@@ -229,7 +230,7 @@ Joint Make_joint(char type, Lattice lattice, bool compression, double unit) {
     Set_lines(member_1, u2, lattice.n2, step, unit);
     Set_lines(member_2, u1, lattice.n1, step, unit);
     for (Member& member : joint.members) {
-        Set_ends(member, joint, of.unloaded_end, unit);
+        Set_ends(member, joint, of, unit);
     }
     return joint;
 }

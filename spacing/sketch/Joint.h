@@ -21,9 +21,11 @@ struct MemberType {
 struct JointType {
     char type; // as in the catalogue
     MemberType member_1, member_2;
-    bool oblique;        // the angle between the members is free; otherwise it is a right one
-    bool force_on_1;     // the force acts along member 1, otherwise along member 2
-    double unloaded_end; // in units: so that the end is flush with an edge of the other member or well apart from it
+    bool oblique;    // the angle between the members is free; otherwise it is a right one
+    bool force_on_1; // the force acts along member 1, otherwise along member 2
+    // In units: so that the end is flush with an edge of the other member or well apart from it, and extension lines
+    // pass its corners.
+    double unloaded_end, loaded_end;
 };
 
 // Of the types '1' to '5'.

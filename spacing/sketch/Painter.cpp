@@ -81,6 +81,14 @@ void Painter::Paint_hidden_edges(const Member& behind, const Member& front) {
     if (!behind.through) {
         paint(behind.End(), false);
     }
+    // A loaded edge is as heavy as elsewhere where the other member ends flush with it.
+    for (const auto& [edge, loaded] :
+         {std::pair{behind.First(), behind.first_edge_loaded}, std::pair{behind.Other(), behind.other_edge_loaded}}) {
+        constexpr double exact = 1e-6;
+        if (loaded && !front.through && Nearer(front.End().a, edge, exact) && Nearer(front.End().b, edge, exact)) {
+            Paint_line(front.End(), Pen::loaded);
+        }
+    }
 }
 
 void Painter::Paint_bolt(Point at, double radius) {
@@ -104,14 +112,14 @@ void Painter::Paint_lines(const std::vector<Point>& points, Pen pen) {
 }
 
 void Painter::Paint_arrow_head(Point tip, Point direction, double length) {
-    constexpr double half_width = 0.32; // of its length
     const Point side{-direction.y, direction.x};
     const Point back = tip - length * direction;
-    drawing_.shapes.emplace_back(PolygonShape{{sheet_.Place(tip), sheet_.Place(back + (half_width * length) * side),
-                                               sheet_.Place(back - (half_width * length) * side)},
-                                              Tone::black,
-                                              Pen::none,
-                                              true});
+    drawing_.shapes.emplace_back(
+        PolygonShape{{sheet_.Place(tip), sheet_.Place(back + (head_half_width * length) * side),
+                      sheet_.Place(back - (head_half_width * length) * side)},
+                     Tone::black,
+                     Pen::none,
+                     true});
 }
 
 void Painter::Paint_text(Point at, std::string_view text, bool bold) {
@@ -119,12 +127,11 @@ void Painter::Paint_text(Point at, std::string_view text, bool bold) {
 }
 
 void Painter::Paint_dimension(const Dimension& dimension) {
-    constexpr double head = 4.6;
     const Point d = dimension.line.b - dimension.line.a;
     const Point direction = (1.0 / Length(d)) * d;
     Paint_line(dimension.line, Pen::dimension);
-    Paint_arrow_head(dimension.line.a, -1.0 * direction, head);
-    Paint_arrow_head(dimension.line.b, direction, head);
+    Paint_arrow_head(dimension.line.a, -1.0 * direction, arrowhead);
+    Paint_arrow_head(dimension.line.b, direction, arrowhead);
     Paint_text(dimension.label_at, dimension.label, false);
 }
 

@@ -17,7 +17,7 @@ public:
     // The wood of a member; its edges and its ends. An edge that the force loads is told apart.
     void Paint_wood(const Member& member, Tone tone);
     void Paint_edges(const Member& member);
-    // The parts of a member's edges that the other member covers.
+    // The parts of a member's edges that the other member covers, and a loaded one where the other member ends on it.
     void Paint_hidden_edges(const Member& behind, const Member& front);
     void Paint_bolt(Point at, double radius = bolt_radius);
 

@@ -17,12 +17,10 @@ constexpr double letter_to_side = 3.4; // of the corner
 constexpr double arc_to_letter = 2.0;
 constexpr double arc_to_end = 5.0; // from the arc to where its sides may be torn
 
-constexpr double grain_half_length = 8.0;
-constexpr double grain_half_width = 3.0;
-constexpr double grain_to_end = 3.0;
-constexpr double grain_to_member = 3.0; // from the other member
-constexpr double grain_step = 3.0;
-constexpr int grain_places = 14;
+constexpr double grain_half_length = 6.5;
+constexpr double grain_half_width = grain_to_anything / 2.0;
+constexpr double grain_step = 2.0;
+constexpr int grain_places = 30;
 
 // Where the edge of a member, so far across it, crosses that of another one.
 Point Crossing(const Member& member, double across, const Member& other, double other_across) {
@@ -80,26 +78,32 @@ std::optional<Angle> Place_angle(const Joint& joint, Occupied& occupied, std::ar
     return angle;
 }
 
-std::optional<Grain> Place_grain(const Joint& joint, std::size_t k, const Occupied& occupied, Reach& reach) {
+std::optional<Grain> Place_grain(const Joint& joint, std::size_t k, const Occupied& occupied, const Reach& column,
+                                 Reach& reach) {
     const Member& member = joint.members[k];
     const Member& other = joint.members[1 - k];
-    const double half_height = (member.First_edge() - member.Other_edge()) / 2.0;
-    const double aside = half_height - grain_half_width - grain_to_anything - 1.0;
+    constexpr double beside_axis = 0.45; // of the way to an edge, where a line runs along the axis
+    const double aside = beside_axis * (member.First_edge() - member.Other_edge()) / 2.0;
     for (int place = 0; place < grain_places; ++place) {
         for (const double away : {1.0, -1.0}) {
             if (away < 0.0 && !member.through) {
                 continue;
             }
-            const double near = Reach_over(member, other, away) + grain_to_member + place * grain_step;
+            const double usual = Reach_over(member, other, away) + grain_to_anything + place * grain_step;
+            const double past = (away > 0.0 ? column.far : column.near) + grain_to_anything;
+            if (usual + grain_step < past) {
+                continue;
+            }
+            const double near = std::max(usual, past);
             const double u = away * (near + grain_half_length);
-            for (const double across : {0.0, aside / 2.0, -aside / 2.0, aside, -aside}) {
+            for (const double across : {0.0, aside, -aside}) {
                 const double at = member.Axis() + across;
                 const Segment middle{member.At(u - grain_half_length, at), member.At(u + grain_half_length, at)};
-                if (!occupied.Takes_grain(middle, grain_half_width)) {
+                if (!occupied.Takes_sign(middle, grain_half_width + grain_to_anything)) {
                     continue;
                 }
                 double& needed = away > 0.0 ? reach.far : reach.near;
-                needed = std::max(needed, near + 2.0 * grain_half_length + grain_to_end);
+                needed = std::max(needed, near + 2.0 * grain_half_length + grain_to_anything + torn_wave);
                 const auto stroke = [&](double from, double to, double off) {
                     return Segment{member.At(u + from * grain_half_length, at + off * grain_half_width),
                                    member.At(u + to * grain_half_length, at + off * grain_half_width)};
@@ -116,7 +120,8 @@ bool Place_force(const Member& pushed, bool compression, const Occupied& occupie
     const Point near = pushed.At(near_u, pushed.Axis());
     const Point far = pushed.At(near_u + force_length, pushed.Axis());
     force.arrow = compression ? Segment{far, near} : Segment{near, far};
-    const bool clear = occupied.Takes_line(force.arrow) && occupied.Takes_grain(force.arrow, thick / 2.0); // off edges
+    const bool clear = occupied.Takes_line(force.arrow) &&
+                       occupied.Takes_sign(force.arrow, thick / 2.0 + force_to_anything); // off edges
     const TextSize size = Size_of(force_letter, true);
     const Point middle = 0.5 * (near + far);
     const double aside = Span(size, pushed.m) / 2.0 + force_letter_gap;

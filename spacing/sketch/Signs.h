@@ -16,7 +16,7 @@ struct Force {
     Point letter_at;
     Rect letter_room;
 };
-inline constexpr double force_length = 26.0;
+inline constexpr double force_length = 22.0;
 inline constexpr std::string_view force_letter = "P"; // bold
 
 // The arc of the angle in the corner between an edge of each member.
@@ -43,8 +43,10 @@ struct Reach {
 // The angle, and the members as far as its sides need them. Nothing at a right angle.
 std::optional<Angle> Place_angle(const Joint& joint, Occupied& occupied, std::array<Reach, 2>& reaches);
 
-// The grain of member k, index 0 or 1, at the first place that is clear outside the joint; nothing where none is.
-std::optional<Grain> Place_grain(const Joint& joint, std::size_t k, const Occupied& occupied, Reach& reach);
+// The grain of member k, index 0 or 1, at the first place that is clear outside the joint and past the column of
+// its dimensions; nothing where none is.
+std::optional<Grain> Place_grain(const Joint& joint, std::size_t k, const Occupied& occupied, const Reach& column,
+                                 Reach& reach);
 
 // The force outside the torn end of its member. Whether there is room for it; it stands at the last place that was
 // tried where there is none.

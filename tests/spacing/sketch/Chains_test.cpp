@@ -33,15 +33,15 @@ TEST(Chains, across_a_member_from_edge_to_edge_over_its_lines) {
     EXPECT_EQ(chain.dimensions[1].label, "a2");
     EXPECT_TRUE(chain.dimensions[0].loaded);
     EXPECT_FALSE(chain.dimensions[1].loaded);
-    // 5 from the edge of the column.
-    Expect_point(chain.dimensions[0].line.a, 15.0, 17.0);
-    Expect_point(chain.dimensions[0].line.b, 15.0, 0.0);
-    Expect_point(chain.dimensions[1].line.a, 15.0, 0.0);
-    Expect_point(chain.dimensions[1].line.b, 15.0, -10.0);
+    // 7 from the edge of the column.
+    Expect_point(chain.dimensions[0].line.a, 17.0, 17.0);
+    Expect_point(chain.dimensions[0].line.b, 17.0, 0.0);
+    Expect_point(chain.dimensions[1].line.a, 17.0, 0.0);
+    Expect_point(chain.dimensions[1].line.b, 17.0, -10.0);
     // From the fastener only; the edges are there themselves.
     ASSERT_EQ(chain.extensions.size(), 1U);
     Expect_point(chain.extensions[0].a, 4.4, 0.0);
-    Expect_point(chain.extensions[0].b, 17.0, 0.0);
+    Expect_point(chain.extensions[0].b, 19.0, 0.0);
 }
 
 TEST(Chains, across_a_member_behind_its_end_the_edges_have_extensions) {
@@ -57,8 +57,8 @@ TEST(Chains, across_a_member_behind_its_end_the_edges_have_extensions) {
 
 TEST(Chains, stand_so_much_farther_out_where_they_are_asked_to) {
     const Chain across = Chain_across(Beam_on_column(), 0, usual, one_fastener, 8.0);
-    Expect_point(across.dimensions[0].line.a, 23.0, 17.0);
-    Expect_point(across.extensions[0].b, 25.0, 0.0);
+    Expect_point(across.dimensions[0].line.a, 25.0, 17.0);
+    Expect_point(across.extensions[0].b, 27.0, 0.0);
     const auto along = Chain_along(Beam_on_column(), 0, usual, one_fastener, 8.0);
     Expect_point(along->dimensions[0].line.a, 0.0, 35.0);
 }

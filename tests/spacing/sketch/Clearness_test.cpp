@@ -32,8 +32,8 @@ TEST(Clearness, a_label_keeps_off_fasteners_labels_and_lines) {
     occupied.Add_label(Label(100.0, 80.0));
     EXPECT_FALSE(occupied.Takes_label(Label(100.0 + 12.4 + 3.5, 80.0)));
     EXPECT_TRUE(occupied.Takes_label(Label(100.0 + 12.4 + 3.7, 80.0)));
-    EXPECT_FALSE(occupied.Takes_label(Label(100.0, 80.0 + 8.4 + 1.3)));
-    EXPECT_TRUE(occupied.Takes_label(Label(100.0, 80.0 + 8.4 + 1.5)));
+    EXPECT_FALSE(occupied.Takes_label(Label(100.0, 80.0 + 8.4 + 0.9)));
+    EXPECT_TRUE(occupied.Takes_label(Label(100.0, 80.0 + 8.4 + 1.1)));
     for (const bool extension : {false, true}) {
         Occupied lined{joint};
         const Segment line{{80.0, 100.0}, {120.0, 100.0}};
@@ -72,12 +72,12 @@ TEST(Clearness, an_extension_passes_foreign_fasteners_by_three_radii_and_crosses
 
 TEST(Clearness, the_grain_keeps_off_everything) {
     Occupied occupied{joint};
-    const double half_width = 3.0;
-    EXPECT_TRUE(occupied.Takes_grain({{60.0, 3.5}, {80.0, 3.5}}, half_width)); // in the middle of the beam
-    EXPECT_FALSE(occupied.Takes_grain({{60.0, 11.5}, {80.0, 11.5}}, half_width));
-    EXPECT_FALSE(occupied.Takes_grain({{-10.0, 9.0}, {4.0, 9.0}}, half_width)); // on the fastener
+    const double room = 6.0;
+    EXPECT_TRUE(occupied.Takes_sign({{60.0, 3.5}, {80.0, 3.5}}, room)); // in the middle of the beam
+    EXPECT_FALSE(occupied.Takes_sign({{60.0, 11.5}, {80.0, 11.5}}, room));
+    EXPECT_FALSE(occupied.Takes_sign({{-10.0, 9.0}, {4.0, 9.0}}, room)); // on the fastener
     occupied.Add_label(Label(70.0, 3.5));
-    EXPECT_FALSE(occupied.Takes_grain({{60.0, 3.5}, {80.0, 3.5}}, half_width));
+    EXPECT_FALSE(occupied.Takes_sign({{60.0, 3.5}, {80.0, 3.5}}, room));
 }
 
 TEST(Clearness, edges_follow_the_torn_ends) {

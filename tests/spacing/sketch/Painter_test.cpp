@@ -92,16 +92,19 @@ TEST(Painter, an_end_is_straight) {
 
 TEST(Painter, edges_are_hidden_where_the_other_member_covers_them) {
     // Beam on a column: lower edge of the beam at -10; the column covers x from -10 to 10. Its end is flush with the
-    // loaded upper edge, which is seen, and the beam's end lies outside.
+    // loaded upper edge, which is as heavy there as elsewhere, and the beam's end lies outside.
     Drawing drawing;
     Painter painter{sheet, drawing};
     const Joint joint = Make_joint('4', {1, 1}, true, 10.0);
     painter.Paint_hidden_edges(joint.members[0], joint.members[1]);
     const std::vector<PolygonShape> polygons = Polygons(drawing);
-    ASSERT_EQ(polygons.size(), 1U);
+    ASSERT_EQ(polygons.size(), 2U);
     EXPECT_EQ(polygons[0].pen, Pen::hidden);
     Expect_point(polygons[0].corners[0], 30.0, 60.0);
     Expect_point(polygons[0].corners[1], 50.0, 60.0);
+    EXPECT_EQ(polygons[1].pen, Pen::loaded);
+    Expect_point(polygons[1].corners[0], 30.0, 33.0);
+    Expect_point(polygons[1].corners[1], 50.0, 33.0);
 }
 
 TEST(Painter, a_loaded_edge_stays_the_heavier_one_where_it_is_hidden) {

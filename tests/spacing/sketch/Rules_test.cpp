@@ -7,11 +7,13 @@
 #include <cmath>
 #include <functional>
 #include <string>
+#include <variant>
 #include <vector>
 
 #include "spacing/Catalogue.h"
 #include "spacing/sketch/Choice.h"
 #include "spacing/sketch/Sheet.h"
+#include "spacing/sketch/Sketch.h"
 
 namespace tarnvik {
 namespace {
@@ -172,6 +174,26 @@ TEST(Rules, a_label_stands_nearest_to_its_own_dimension) {
     });
 }
 
+TEST(Rules, a_label_stands_beside_its_dimension_and_on_the_same_wood) {
+    For_all([](const Measured& sketch) {
+        for (const Chain& chain : sketch.all.chains) {
+            const Member& member = sketch.all.joint.members[chain.dimensions.front().label[0] == 'a' ? 0 : 1];
+            for (const Dimension& dimension : chain.dimensions) {
+                const Rect ink = Ink(dimension.label_at, 12.3, capital_height);
+                EXPECT_TRUE(Touches(dimension.line, ink.Grown(10.0)))
+                    << dimension.label << " stands far from its dimension";
+                if (!On_wood(member, 0.5 * (dimension.line.a + dimension.line.b))) {
+                    continue;
+                }
+                for (const Point& corner : {Point{ink.left, ink.low}, Point{ink.right, ink.low},
+                                            Point{ink.left, ink.high}, Point{ink.right, ink.high}}) {
+                    EXPECT_TRUE(On_wood(member, corner)) << dimension.label << " stands outside its member";
+                }
+            }
+        }
+    });
+}
+
 TEST(Rules, an_extension_line_passes_other_bolts_by_three_radii) {
     For_all([](const Measured& sketch) {
         for (const Chain& chain : sketch.all.chains) {
@@ -209,6 +231,109 @@ TEST(Rules, lines_of_different_chains_keep_apart) {
             }
         }
     });
+}
+
+TEST(Rules, an_arrowhead_keeps_clear_of_every_edge_but_its_own) {
+    constexpr double head = 4.6; // long, and
+    constexpr double half_width = 1.5;
+    For_all([](const Measured& sketch) {
+        for (const Chain& chain : sketch.all.chains) {
+            for (const Dimension& dimension : chain.dimensions) {
+                const Point d =
+                    (1.0 / Length(dimension.line.b - dimension.line.a)) * (dimension.line.b - dimension.line.a);
+                for (const Segment& tip : {Segment{dimension.line.a, dimension.line.a + head * d},
+                                           Segment{dimension.line.b, dimension.line.b - head * d}}) {
+                    for (const Edge& edge : sketch.edges) {
+                        const bool own =
+                            Gap(tip.a, edge.line) < 1e-6 && std::fabs(Dot(edge.line.b - edge.line.a, d)) < 1e-6;
+                        EXPECT_TRUE(own || Gap(tip, edge.line) >= edge.half_pen + half_width + 1.0)
+                            << "an arrowhead of " << dimension.label << " stands on an edge";
+                    }
+                }
+            }
+        }
+    });
+}
+
+TEST(Rules, no_dimension_crosses_the_loaded_edge) {
+    For_all([](const Measured& sketch) {
+        for (const Edge& edge : sketch.edges) {
+            if (edge.half_pen < thick / 2.0) {
+                continue;
+            }
+            for (const Chain& chain : sketch.all.chains) {
+                for (const Dimension& dimension : chain.dimensions) {
+                    const Point d =
+                        (1.0 / Length(dimension.line.b - dimension.line.a)) * (dimension.line.b - dimension.line.a);
+                    EXPECT_TRUE(std::fabs(Dot(edge.line.b - edge.line.a, d)) < 1e-6 ||
+                                Gap(dimension.line, edge.line) > 0.0)
+                        << dimension.label << " crosses the loaded edge";
+                }
+            }
+        }
+    });
+}
+
+TEST(Rules, an_extension_line_passes_corners_that_are_not_its_own) {
+    For_all([](const Measured& sketch) {
+        for (const Chain& chain : sketch.all.chains) {
+            for (const Segment& extension : chain.extensions) {
+                for (const Member& member : sketch.all.joint.members) {
+                    for (const Point& corner : {member.End().a, member.End().b}) {
+                        EXPECT_TRUE(member.through || Length(corner - extension.a) < 2.5 ||
+                                    Gap(corner, extension) >= 2.0)
+                            << "an extension line of " << chain.dimensions.front().label << " grazes a corner";
+                    }
+                }
+            }
+        }
+    });
+}
+
+TEST(Rules, no_extension_line_lies_on_an_edge) {
+    For_all([](const Measured& sketch) {
+        for (const Chain& chain : sketch.all.chains) {
+            for (const Segment& extension : chain.extensions) {
+                for (const Edge& edge : sketch.edges) {
+                    const Point middle = 0.5 * (extension.a + extension.b);
+                    EXPECT_FALSE(Gap(extension.a, edge.line) < 0.5 && Gap(middle, edge.line) < 0.5)
+                        << "an extension line of " << chain.dimensions.front().label << " runs along an edge";
+                }
+            }
+        }
+    });
+}
+
+TEST(Rules, the_loaded_edge_is_heavy_where_a_member_ends_flush_with_it) {
+    int flush = 0;
+    for (int row = 0; row < case_count; ++row) {
+        for (const bool compression : {false, true}) {
+            for (const Room& room : rooms) {
+                const Composition all = Choose(row, compression, room.width, room.height).all;
+                const Member& beam = all.joint.members[0];
+                const Segment edge = beam.first_edge_loaded ? beam.First() : beam.Other();
+                const Segment end = all.joint.members[1].End();
+                if (beam.first_edge_loaded == beam.other_edge_loaded || Gap(end.a, edge) > 1e-6 ||
+                    Gap(end.b, edge) > 1e-6) {
+                    continue;
+                }
+                ++flush;
+                const Point at = Centred(all.bounds, room.width, room.height).Place(0.5 * (end.a + end.b));
+                Pen topmost = Pen::none;
+                for (const auto& shape : Draw_sketch(row, compression, room.width, room.height).drawing.shapes) {
+                    const auto* line = std::get_if<PolygonShape>(&shape);
+                    if (line != nullptr && line->corners.size() == 2 &&
+                        std::fabs(line->corners[0].y - line->corners[1].y) < 1e-6 &&
+                        Gap(at, {line->corners[0], line->corners[1]}) < 1e-6) {
+                        topmost = line->pen;
+                    }
+                }
+                EXPECT_EQ(topmost, Pen::loaded) << case_table[static_cast<std::size_t>(row)].Case_code
+                                                << " has its loaded edge overdrawn: " << room.name;
+            }
+        }
+    }
+    EXPECT_EQ(flush, 2 * 16); // types 4 and 5 in compression
 }
 
 TEST(Rules, the_force_stands_outside_the_torn_end_of_its_member_on_its_axis) {
@@ -311,19 +436,27 @@ TEST(Rules, every_member_shows_its_grain_on_clear_wood) {
             const Member& member = sketch.all.joint.members[k];
             const Member& other = sketch.all.joint.members[1 - k];
             ASSERT_TRUE(sketch.all.grains[k]) << "no grain in member " << k + 1;
+            const Grain& grain = *sketch.all.grains[k];
+            const double height = std::fabs(Dot(grain.front().a - grain.back().a, member.m)) - 1e-6;
             for (const Segment& stroke : *sketch.all.grains[k]) {
                 EXPECT_NEAR(Dot(stroke.b - stroke.a, member.m), 0.0, 1e-9) << "across the grain";
                 EXPECT_TRUE(On_wood(member, stroke.a) && On_wood(member, stroke.b));
                 EXPECT_FALSE(On_wood(other, stroke.a) || On_wood(other, stroke.b)) << "grain of a covered part";
+                for (const Edge& edge : sketch.edges) {
+                    EXPECT_GE(Gap(stroke, edge.line), height) << "grain beside an edge";
+                }
                 for (const Label& label : sketch.labels) {
-                    EXPECT_FALSE(Touches(stroke, label.ink.Grown(2.0))) << "grain behind " << label.text;
+                    EXPECT_FALSE(Touches(stroke, label.ink.Grown(height))) << "grain behind " << label.text;
                 }
                 for (const Chain& chain : sketch.all.chains) {
                     for (const Segment& extension : chain.extensions) {
-                        EXPECT_GE(Gap(stroke, extension), 2.0) << "grain on an extension line";
+                        EXPECT_GE(Gap(stroke, extension), height) << "grain on an extension line";
                     }
                     for (const Dimension& dimension : chain.dimensions) {
-                        EXPECT_GE(Gap(stroke, dimension.line), 2.0) << "grain on " << dimension.label;
+                        const bool squeezed = chain.on_wood && std::fabs(Dot(chain.outward, member.u)) > 0.999 &&
+                                              std::fabs(Dot(dimension.label_at - stroke.a, member.u)) < height;
+                        EXPECT_FALSE(squeezed) << "grain within the column of " << dimension.label;
+                        EXPECT_GE(Gap(stroke, dimension.line), height) << "grain on " << dimension.label;
                     }
                 }
             }

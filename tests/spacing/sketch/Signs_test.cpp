@@ -52,7 +52,7 @@ TEST(Signs, the_grain_runs_along_its_member_beside_the_joint) {
     for (std::size_t k = 0; k < 2; ++k) {
         const Member& member = joint.members[k];
         auto reaches = Reaches();
-        const auto grain = Place_grain(joint, k, occupied, reaches[k]);
+        const auto grain = Place_grain(joint, k, occupied, {}, reaches[k]);
         ASSERT_TRUE(grain) << k;
         for (const Segment& stroke : *grain) {
             EXPECT_NEAR(Dot(stroke.b - stroke.a, member.m), 0.0, 1e-9);
@@ -67,9 +67,9 @@ TEST(Signs, the_grain_gives_way_to_what_stands_there) {
     const Member& beam = joint.members[0];
     Occupied occupied{joint};
     auto reaches = Reaches();
-    const auto usual = Place_grain(joint, 0, occupied, reaches[0]);
+    const auto usual = Place_grain(joint, 0, occupied, {}, reaches[0]);
     occupied.Add_label(Around((*usual)[1].a, Size_of("a1", false)));
-    const auto moved = Place_grain(joint, 0, occupied, reaches[0]);
+    const auto moved = Place_grain(joint, 0, occupied, {}, reaches[0]);
     ASSERT_TRUE(moved);
     EXPECT_GT(Length((*moved)[1].a - (*usual)[1].a), 5.0);
     EXPECT_LT(std::fabs(Dot((*moved)[1].a, beam.m) - beam.Axis()), beam.First_edge() - beam.Axis());

@@ -160,7 +160,11 @@ int Run_batch(const Options& options, const ConnectionState& fresh, std::istream
     // A row of the printed report may show what an earlier print left in it: such lines have to come one after another.
     const bool report = std::find(options.with.begin(), options.with.end(), "report") != options.with.end();
     const auto run = options.jobs == 1 || report ? Run_alone : Run_threads;
-    return run(options, fresh, in, out, err);
+    const int status = run(options, fresh, in, out, err);
+    if (in.bad()) {
+        throw UsageError{"standard input cannot be read"};
+    }
+    return status;
 }
 
 } // namespace tarnvik

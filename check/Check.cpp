@@ -21,33 +21,38 @@ namespace {
     throw UsageError{option + " needs " + paint_program_name + " beside the program; the build with the window has it"};
 }
 
+// The exit status of what the options ask for.
+int Carry_out(Options options, const std::filesystem::path& program_folder, std::istream& in, std::ostream& out,
+              std::ostream& err, Rendering* rendering) {
+    if (options.help) {
+        out << Help_text();
+        return exit_holds;
+    }
+    if (options.version) {
+        out << "tarnvik-check " << TARNVIK_VERSION << "\n";
+        return exit_holds;
+    }
+    if (options.pictures) {
+        if (rendering == nullptr) {
+            Refuse_painting("--pictures");
+        }
+        const int written = rendering->Write_pictures(*options.pictures);
+        out << written << " pictures written to " << *options.pictures << "\n";
+        return exit_holds;
+    }
+    if (options.report && rendering == nullptr) {
+        Refuse_painting("--report");
+    }
+    const std::filesystem::path folder = Readable_folder(Find_data_folder(program_folder, options.data));
+    return Tool{std::move(options), in, out, err, rendering}.Run(folder);
+}
+
 } // namespace
 
 int Run_check(const std::vector<std::string>& arguments, const std::filesystem::path& program_folder, std::istream& in,
               std::ostream& out, std::ostream& err, Rendering* rendering) {
     try {
-        Options options = Parse_options(arguments);
-        if (options.help) {
-            out << Help_text();
-            return exit_holds;
-        }
-        if (options.version) {
-            out << "tarnvik-check " << TARNVIK_VERSION << "\n";
-            return exit_holds;
-        }
-        if (options.pictures) {
-            if (rendering == nullptr) {
-                Refuse_painting("--pictures");
-            }
-            const int written = rendering->Write_pictures(*options.pictures);
-            out << written << " pictures written to " << *options.pictures << "\n";
-            return exit_holds;
-        }
-        if (options.report && rendering == nullptr) {
-            Refuse_painting("--report");
-        }
-        const std::filesystem::path folder = Readable_folder(Find_data_folder(program_folder, options.data));
-        const int status = Tool{std::move(options), in, out, err, rendering}.Run(folder);
+        const int status = Carry_out(Parse_options(arguments), program_folder, in, out, err, rendering);
         if (out.flush()) {
             return status;
         }

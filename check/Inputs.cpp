@@ -4,10 +4,15 @@
 #include <charconv>
 #include <cmath>
 #include <limits>
+#include <set>
+#include <string_view>
+#include <vector>
 
 #include <nlohmann/json.hpp>
 
 #include "calc/StateFields.h"
+#include "check/Named_inputs.h"
+#include "check/Nearest.h"
 #include "check/Options.h"
 
 namespace tarnvik {
@@ -23,10 +28,6 @@ template <class... F> Overloaded(F...) -> Overloaded<F...>;
     throw UsageError{name + ": expected " + expected + ", got " + got};
 }
 
-std::string Quoted(const std::string& text) {
-    return "\"" + text + "\"";
-}
-
 // A JSON value as a message shows it. What is nested is named only: its text has no bound, nor has its depth.
 std::string Shown(const Json& value) {
     if (value.is_array()) {
@@ -35,7 +36,10 @@ std::string Shown(const Json& value) {
     if (value.is_object()) {
         return value.empty() ? "{}" : "an object";
     }
-    return value.dump(-1, ' ', false, Json::error_handler_t::replace);
+    if (value.is_string()) {
+        return Json(Cut(value.get_ref<const std::string&>())).dump(-1, ' ', false, Json::error_handler_t::replace);
+    }
+    return value.dump();
 }
 
 // A 32-bit float holds the value, rounded.
@@ -91,10 +95,23 @@ bool To_flag(const std::string& name, const std::string& text, const std::string
     Refuse(name, "true or false", shown);
 }
 
+std::vector<std::string_view> Names() {
+    std::vector<std::string_view> names;
+    for (const StateField& field : State_fields()) {
+        if (field.is_input) {
+            names.push_back(field.name);
+        }
+    }
+    for (const NamedInput& input : Named_inputs()) {
+        names.push_back(input.name);
+    }
+    return names;
+}
+
 const StateField& Input(const std::string& name) {
     const StateField* field = Find_state_field(name);
     if (field == nullptr || !field->is_input) {
-        throw UsageError{Quoted(name) + " is no input; see tarnvik-check --help"};
+        throw UsageError{Quoted(name) + " is no input; see tarnvik-check --help" + Nearest_names(name, Names())};
     }
     return *field;
 }
@@ -103,6 +120,33 @@ void After_write(ConnectionState& s, std::string_view name) {
     if (name == "Bulldog_index") {
         Get_dc(s);
     }
+}
+
+// The members of an object, or of the objects of an array. What is nested in them is refused later.
+std::size_t Members(const Json& inputs) {
+    if (inputs.is_object()) {
+        return inputs.size();
+    }
+    std::size_t members = 0;
+    if (inputs.is_array()) {
+        for (const Json& object : inputs) {
+            members += object.is_object() ? object.size() : 0;
+        }
+    }
+    return members;
+}
+
+void Refuse_key_twice(std::string_view line) {
+    std::set<std::string> keys; // of the object that is open
+    const auto once = [&keys](int, Json::parse_event_t event, Json& key) {
+        if (event == Json::parse_event_t::object_start) {
+            keys.clear();
+        } else if (event == Json::parse_event_t::key && !keys.insert(key.get<std::string>()).second) {
+            throw UsageError{Quoted(key.get<std::string>()) + ": expected once in an object, got it twice"};
+        }
+        return true;
+    };
+    [[maybe_unused]] const Json read = Json::parse(line, once);
 }
 
 } // namespace
@@ -122,13 +166,40 @@ void Set_input(ConnectionState& s, const std::string& name, const std::string& v
     After_write(s, name);
 }
 
+nlohmann::ordered_json Parse_line(std::string_view line) {
+    std::size_t keys = 0;
+    const auto count = [&keys](int, Json::parse_event_t event, const Json&) {
+        keys += event == Json::parse_event_t::key ? 1 : 0;
+        return true;
+    };
+    try {
+        Json inputs = Json::parse(line, count);
+        if (keys > Members(inputs)) {
+            Refuse_key_twice(line);
+        }
+        return inputs;
+    } catch (const Json::parse_error& error) {
+        throw UsageError{"expected JSON, got something else at character " + std::to_string(error.byte)};
+    } catch (const Json::exception&) {
+        throw UsageError{"expected JSON with numbers that a 64-bit float holds"};
+    }
+}
+
 void Set_inputs(ConnectionState& s, const Json& inputs) {
     if (!inputs.is_object()) {
         throw UsageError{"expected an object of inputs, got " + Shown(inputs)};
     }
+    NamedValues named;
     for (const auto& item : inputs.items()) {
         const std::string& name = item.key();
         const Json& value = item.value();
+        if (Is_named_input(name)) {
+            if (!value.is_string() && !value.is_number()) {
+                Refuse(name, "a text or a number", Shown(value));
+            }
+            named.emplace_back(name, value.is_string() ? value.get<std::string>() : Shown(value));
+            continue;
+        }
         const auto number = [&] {
             if (!value.is_number()) {
                 Refuse(name, "a number", Shown(value));
@@ -151,6 +222,7 @@ void Set_inputs(ConnectionState& s, const Json& inputs) {
             Input(name).member);
         After_write(s, name);
     }
+    Set_named_inputs(s, named);
 }
 
 bool Take_number(ConnectionState& s, const StateField& field, double value) {

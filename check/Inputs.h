@@ -16,7 +16,12 @@ namespace tarnvik {
 // Errors: throws UsageError that names the input and what was expected.
 void Set_input(ConnectionState& s, const std::string& name, const std::string& value);
 
-// Every member of the object, in its order. Errors: throws UsageError.
+// A batch line. A key that stands in an object twice is refused: nobody knows which was meant.
+// Errors: throws UsageError, in words of the tool's own.
+nlohmann::ordered_json Parse_line(std::string_view line);
+
+// Every member of the object, in its order, and then its inputs by name (check/Named_inputs.h), together. Errors:
+// throws UsageError.
 void Set_inputs(ConnectionState& s, const nlohmann::ordered_json& inputs);
 
 // The same writes of one value by its kind. False, with nothing written, where the field is no input or does not take

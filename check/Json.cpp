@@ -13,75 +13,7 @@ namespace tarnvik {
 
 namespace {
 
-void Append_value(std::string& json, float value) {
-    if (value == 0.0F && std::signbit(value)) {
-        json += "-0.0"; // most readers take "-0" for an integer and lose the sign
-    } else if (std::isfinite(value)) {
-        json += Shortest(value).View();
-    } else {
-        json += "null"; // JSON has no infinity and no NaN; they come from a damaged project only
-    }
-}
-
-void Append_value(std::string& json, int value) {
-    json += std::to_string(value);
-}
-
-void Append_value(std::string& json, std::int16_t value) {
-    Append_value(json, static_cast<int>(value));
-}
-
-void Append_value(std::string& json, std::uint32_t value) {
-    json += std::to_string(value);
-}
-
-void Append_value(std::string& json, bool value) {
-    json += value ? "true" : "false";
-}
-
-void Append_value(std::string& json, std::string_view value) {
-    Append_json(json, value);
-}
-
-void Append_value(std::string& json, const std::string& value) {
-    Append_json(json, value);
-}
-
-template <std::size_t N> void Append_value(std::string& json, const FixedText<N>& value) {
-    Append_json(json, value.View());
-}
-
-// Members of an object or elements of an array, with the commas between them.
-class List {
-public:
-    List(std::string& json, char open, char close) : json_(json), close_(close) { json_ += open; }
-    List(const List&) = delete;
-    List& operator=(const List&) = delete;
-    ~List() { json_ += close_; }
-
-    void Next() {
-        if (!first_) {
-            json_ += ',';
-        }
-        first_ = false;
-    }
-    // The names are the program's own: nothing in them has to be escaped.
-    void Name(std::string_view name) {
-        json_ += first_ ? "\"" : ",\"";
-        first_ = false;
-        json_ += name;
-        json_ += "\":";
-    }
-    template <class Value> void Member(std::string_view name, const Value& value) {
-        Name(name);
-        Append_value(json_, value);
-    }
-
-private:
-    std::string& json_;
-    char close_;
-    bool first_{true};
-};
+using List = JsonList;
 
 void Append_field(std::string& json, List& object, const ConnectionState& s, const StateField& field) {
     object.Name(field.name);
@@ -316,6 +248,40 @@ void Append_explanations(std::string& json, const ConnectionState& s) {
 
 } // namespace
 
+void Append_value(std::string& json, float value) {
+    if (value == 0.0F && std::signbit(value)) {
+        json += "-0.0"; // most readers take "-0" for an integer and lose the sign
+    } else if (std::isfinite(value)) {
+        json += Shortest(value).View();
+    } else {
+        json += "null"; // JSON has no infinity and no NaN; they come from a damaged project only
+    }
+}
+
+void Append_value(std::string& json, int value) {
+    json += std::to_string(value);
+}
+
+void Append_value(std::string& json, std::int16_t value) {
+    Append_value(json, static_cast<int>(value));
+}
+
+void Append_value(std::string& json, std::uint32_t value) {
+    json += std::to_string(value);
+}
+
+void Append_value(std::string& json, bool value) {
+    json += value ? "true" : "false";
+}
+
+void Append_value(std::string& json, std::string_view value) {
+    Append_json(json, value);
+}
+
+void Append_value(std::string& json, const std::string& value) {
+    Append_json(json, value);
+}
+
 void Append_json(std::string& json, std::string_view text) {
     const bool plain = std::all_of(text.begin(), text.end(), [](char c) {
         const auto byte = static_cast<unsigned char>(c);
@@ -331,7 +297,8 @@ void Append_json(std::string& json, std::string_view text) {
 }
 
 void Append_result(std::string& json, const Options& options, const std::string& project, const ConnectionState& s,
-                   const Screen& screen, const PassResult& result, const MessageLog& box, const RecordReport& record) {
+                   const Screen& screen, const PassResult& result, const MessageLog& box, const RecordReport& record,
+                   const Remarks& remarks) {
     List object{json, '{', '}'};
     if (!project.empty()) {
         object.Member("project", project);
@@ -354,8 +321,20 @@ void Append_result(std::string& json, const Options& options, const std::string&
             shown.Member("style", message.style);
         }
     }
+    if (!remarks.warnings.empty()) {
+        object.Name("warnings");
+        List warnings{json, '[', ']'};
+        for (const std::string& warning : remarks.warnings) {
+            warnings.Next();
+            Append_json(json, warning);
+        }
+    }
     object.Name("state");
     Append_state(json, options, s);
+    if (remarks.checks) {
+        object.Name("checks");
+        Append_checks(json, *remarks.checks, Is_english(s));
+    }
     for (const std::string& group : options.with) {
         object.Name(group);
         if (group == "screen") {

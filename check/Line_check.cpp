@@ -6,6 +6,7 @@
 
 #include "check/Inputs.h"
 #include "check/Recording.h"
+#include "check/Validation.h"
 
 namespace tarnvik {
 
@@ -13,66 +14,102 @@ using Json = nlohmann::ordered_json;
 
 LineCheck::LineCheck(const Options& options, const ConnectionState& fresh)
     : options_(options), fresh_(fresh), s_(std::make_unique<ConnectionState>(fresh)),
-      record_(Recording(session_, clock_)) {}
+      record_(Recording(session_, clock_)), judging_(options.checks || options.strict) {}
 
 long LineCheck::Check(std::string_view lines, long number, Answers& answers) {
     const long first = number;
     for (std::size_t begin = 0; begin < lines.size(); ++number) {
         const std::size_t end = std::min(lines.find('\n', begin), lines.size());
-        answers.status = Worse(answers.status, Line(lines.substr(begin, end - begin), number, answers));
-        answers.results += '\n';
+        const std::string_view line = lines.substr(begin, end - begin);
         begin = end + 1;
+        if (line.find_first_not_of(" \t\r") != std::string_view::npos) {
+            answers.status = Worse(answers.status, Line(line, number, answers));
+            answers.results += '\n';
+        }
     }
     return number - first;
 }
 
 int LineCheck::Line(std::string_view line, long number, Answers& answers) {
-    std::string error;
     try {
-        Renew();
-        if (!reader_.Read(line, *s_, [this] { Calculate(); })) {
-            Renew();
-            Calculate_line(Json::parse(line));
-        }
-        Append_result(answers.results, options_, {}, *s_, session_.Shown(), result_, messages_, record_);
-        return Status(*s_, result_);
-    } catch (const UsageError& usage) {
-        error = usage.text;
-    } catch (const Json::exception& json) {
-        error = std::string{"expected JSON: "} + json.what();
+        return Answer(line, answers.results);
+    } catch (const UsageError& error) {
+        answers.complaints.push_back(
+            {answers.results.size(), "tarnvik-check: line " + std::to_string(number) + ": " + error.text + "\n"});
+        answers.results += "{\"line\":" + std::to_string(number) + ",\"error\":";
+        Append_json(answers.results, error.text);
+        answers.results += '}';
+        return exit_usage;
     }
-    answers.complaints.push_back(
-        {answers.results.size(), "tarnvik-check: line " + std::to_string(number) + ": " + error + "\n"});
-    answers.results += "{\"line\":" + std::to_string(number) + ",\"error\":";
-    Append_json(answers.results, error);
-    answers.results += '}';
-    return exit_usage;
+}
+
+// Errors: throws UsageError.
+int LineCheck::Answer(std::string_view line, std::string& results) {
+    if (!Read_fast(line)) {
+        Renew();
+        Calculate_line(Parse_line(line));
+    }
+    if (options_.checks) {
+        remarks_.checks = judge_.Judge_results(*s_);
+    }
+    Append_result(results, options_, {}, *s_, session_.Shown(), result_, messages_, record_, remarks_);
+    const int status = Status(*s_, result_);
+    return options_.strict ? Strict_status(status, judge_.Judge_results(*s_)) : status;
+}
+
+// What has to be told of a line is left to the general reader, and where a typed he may be out of date: that one knows
+// which step wrote it.
+bool LineCheck::Read_fast(std::string_view line) {
+    Renew();
+    try {
+        return reader_.Read(line, *s_, [this] { Calculate(true); }) && !(judging_ && steps_ > 1 && s_->Man_he_on);
+    } catch (const UsageError&) {
+        return false;
+    }
 }
 
 // An object of inputs, or several that are applied one after the other; the result is that of the last.
 void LineCheck::Calculate_line(const Json& inputs) {
     if (!inputs.is_array()) {
-        Set_inputs(*s_, inputs);
-        Calculate();
+        Calculate_object(inputs);
         return;
     }
     if (inputs.empty()) {
         throw UsageError{"expected at least one object of inputs, got []"};
     }
-    for (const Json& object : inputs) {
-        Set_inputs(*s_, object);
-        Calculate();
+    for (std::size_t i = 0; i < inputs.size(); ++i) {
+        try {
+            Calculate_object(inputs[i]);
+        } catch (const UsageError& error) {
+            throw inputs.size() > 1 ? UsageError{"element " + std::to_string(i + 1) + ": " + error.text} : error;
+        }
     }
 }
 
-void LineCheck::Calculate() {
+void LineCheck::Calculate_object(const Json& inputs) {
+    Set_inputs(*s_, inputs);
+    Calculate(steps_ == 0 || inputs.contains("man_he") || inputs.contains("Man_he_on"));
+}
+
+// `typed`: he has been written, or may have been. Errors: throws UsageError for what --strict refuses.
+void LineCheck::Calculate(bool typed) {
     messages_.messages.clear();
+    remarks_.warnings = Invalid_inputs(*s_);
+    if (options_.strict && !remarks_.warnings.empty()) {
+        throw UsageError{remarks_.warnings.front()};
+    }
     result_ = session_.First_pass(options_.with.empty() ? Session::Showing::nothing : Session::Showing::screen);
+    ++steps_;
+    if (judging_) {
+        judge_.After_pass(*s_, result_, typed);
+    }
 }
 
 // A new project; the tables never change in a batch.
 void LineCheck::Renew() {
     static_cast<ConnectionValues&>(*s_) = fresh_;
+    steps_ = 0;
+    judge_.Begin();
     if (!options_.with.empty()) {
         session_.Shown() = {};
     }

@@ -11,6 +11,7 @@
 
 #include "calc/GlobalParameter.h"
 #include "calc/pass/Main_beregn.h"
+#include "check/Checks.h"
 #include "check/Json.h"
 #include "check/Line_reader.h"
 #include "check/MessageLog.h"
@@ -46,8 +47,11 @@ private:
     MessageBox& Box() override { return messages_; }
 
     int Line(std::string_view line, long number, Answers& answers);
+    int Answer(std::string_view line, std::string& results);
+    bool Read_fast(std::string_view line);
     void Calculate_line(const nlohmann::ordered_json& inputs);
-    void Calculate();
+    void Calculate_object(const nlohmann::ordered_json& inputs);
+    void Calculate(bool typed);
     void Renew();
 
     const Options& options_;
@@ -59,6 +63,10 @@ private:
     RecordReport record_;
     LineReader reader_;
     PassResult result_; // of the last pass
+    Remarks remarks_;   // on it
+    Judge judge_{session_.Results()};
+    const bool judging_; // the verdict is asked for
+    int steps_{};        // passes of the line
 };
 
 } // namespace tarnvik

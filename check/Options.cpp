@@ -7,6 +7,8 @@
 #include <system_error>
 
 #include "calc/StateFields.h"
+#include "check/Lists.h"
+#include "check/Nearest.h"
 
 namespace tarnvik {
 
@@ -15,6 +17,9 @@ namespace {
 constexpr std::array<std::string_view, 6> groups{"screen", "tables", "pictures", "report", "detail", "explanations"};
 // The tables behind the state, shown when they are asked for by name.
 constexpr std::array<std::string_view, 3> tables{"Mat", "Prof", "Setup"};
+
+// The group of the verdict, which --fields leaves out unless it names it.
+constexpr std::string_view checks_group = "checks";
 
 std::vector<std::string> Split_list(const std::string& list) {
     std::vector<std::string> parts;
@@ -40,13 +45,26 @@ opened and checked.
 
   --data DIR         folder of the three CSV files (default: the window's own)
   --lang Eng|Nor     language of a new project (default: the setup file's)
+  --bolt, --bolts, --layout, --spacing, --connector, --material, --member1, --member2,
+  --joint, --tension, --compression, --angle, --load, --service
+                     inputs by name, such as --bolt M16x8.8 --bolts 3 --joint 1.2
+                     --member1 2x48x198 --member2 48x223 --tension 25kN
+  --list LIST        what can be asked for: bolts,connectors,materials,profiles,joints,
+                     cases,inputs; as a table, or JSON with --json
   --set NAME=VALUE   write an input before the check; repeatable, in the order given
   --json             one JSON object a line instead of the readable summary
   --with GROUPS      more in the JSON, separated by commas:
                      screen,tables,pictures,report,detail,explanations
-  --fields A,B,...   only these names of the state; Mat, Prof and Setup show the tables
+  --fields A,B,...   only these names of the state; Mat, Prof and Setup show the tables,
+                     checks the verdict
+  --strict           fail also where distances do not fit or a check was not made;
+                     refuse inputs outside their ranges and impossible pairs
   --batch            read inputs as JSON Lines from standard input, one result a line
   --jobs N           check the lines of a batch on N threads; results stay in order
+  --sweep NAME=FROM:TO:STEP
+                     verdicts over a range of an input, as CSV, or JSON with --json;
+                     two of them give a grid
+  --plot FILE.svg    draw the utilisations over the input of --sweep
   --save FILE        save the project after the check
   --report FILE.pdf  write the two-page report
   --pictures DIR     write every stored picture, as PNG and SVG, under its key
@@ -54,7 +72,8 @@ opened and checked.
   --version          the version
 
 A batch line is an object of inputs, or an array of such objects that are applied to
-the same connection one after the other; every line starts from a new project.
+the same connection one after the other; every line starts from a new project. Its
+keys are inputs, or the inputs by name without their dashes.
 
 Inputs (NAME): flags take true or false, the others a number or a text.
 )";
@@ -73,8 +92,9 @@ Inputs (NAME): flags take true or false, the others a number or a text.
     text += line + R"(
 
 Exit status: 0 all calculated and no utilisation above 1.0; 1 all calculated, some
-utilisation above 1.0; 2 wrong usage or unreadable input; 3 a check was stopped or its
-arithmetic failed.
+utilisation above 1.0, or with --strict something that does not fit or was not
+checked; 2 wrong usage or unreadable input; 3 a check was stopped or its arithmetic
+failed.
 )";
     return text;
 }
@@ -83,7 +103,7 @@ namespace {
 
 void Set_lang(Options& options, const std::string& value) {
     if (value != "Eng" && value != "Nor") {
-        throw UsageError{"--lang: expected Eng or Nor, got \"" + value + "\""};
+        throw UsageError{"--lang: expected Eng or Nor, got " + Quoted(value)};
     }
     options.lang = value;
 }
@@ -91,7 +111,7 @@ void Set_lang(Options& options, const std::string& value) {
 void Add_input(Options& options, const std::string& pair) {
     const std::size_t equals = pair.find('=');
     if (equals == std::string::npos || equals == 0) {
-        throw UsageError{"--set: expected NAME=VALUE, got \"" + pair + "\""};
+        throw UsageError{"--set: expected NAME=VALUE, got " + Quoted(pair)};
     }
     options.set.emplace_back(pair.substr(0, equals), pair.substr(equals + 1));
 }
@@ -99,19 +119,44 @@ void Add_input(Options& options, const std::string& pair) {
 void Add_groups(Options& options, const std::string& list) {
     for (std::string& group : Split_list(list)) {
         if (std::find(groups.begin(), groups.end(), group) == groups.end()) {
-            throw UsageError{"--with: unknown group \"" + group +
-                             "\", expected screen,tables,pictures,report,detail,explanations"};
+            throw UsageError{"--with: unknown group " + Quoted(group) +
+                             ", expected screen,tables,pictures,report,detail,explanations" +
+                             Nearest_names(group, {groups.begin(), groups.end()})};
         }
         options.with.push_back(std::move(group));
     }
     options.json = true;
 }
 
+void Set_list(Options& options, const std::string& value) {
+    const auto names = List_names();
+    if (std::find(names.begin(), names.end(), value) == names.end()) {
+        std::string expected;
+        for (const std::string_view name : names) {
+            expected += expected.empty() ? "" : ",";
+            expected += name;
+        }
+        throw UsageError{"--list: expected one of " + expected + ", got " + Quoted(value)};
+    }
+    options.list = value;
+}
+
+std::vector<std::string_view> Field_names() {
+    std::vector<std::string_view> names{tables.begin(), tables.end()};
+    names.push_back(checks_group);
+    for (const StateField& field : State_fields()) {
+        names.push_back(field.name);
+    }
+    return names;
+}
+
 void Set_fields(Options& options, const std::string& list) {
     options.fields = Split_list(list);
+    options.checks = std::erase(*options.fields, checks_group) > 0;
     for (const std::string& field : *options.fields) {
         if (Find_state_field(field) == nullptr && std::find(tables.begin(), tables.end(), field) == tables.end()) {
-            throw UsageError{"--fields: \"" + field + "\" is no name of the state"};
+            throw UsageError{"--fields: " + Quoted(field) + " is no name of the state" +
+                             Nearest_names(field, Field_names())};
         }
     }
     options.json = true;
@@ -122,7 +167,7 @@ void Set_jobs(Options& options, const std::string& value) {
     const char* const end = value.data() + value.size();
     const auto [stop, error] = std::from_chars(value.data(), end, options.jobs);
     if (error != std::errc{} || stop != end || options.jobs < 1 || options.jobs > most) {
-        throw UsageError{"--jobs: expected a whole number from 1 to 256, got \"" + value + "\""};
+        throw UsageError{"--jobs: expected a whole number from 1 to 256, got " + Quoted(value)};
     }
 }
 
@@ -138,11 +183,15 @@ constexpr std::array option_rows{
     OptionRow{"--data",     "a folder",         [](Options& o, const std::string& value) { o.data = value; }},
     OptionRow{"--lang",     "Eng or Nor",       Set_lang},
     OptionRow{"--set",      "NAME=VALUE",       Add_input},
+    OptionRow{"--list",     "a list",           Set_list},
     OptionRow{"--json",     nullptr,            [](Options& o, const std::string&) { o.json = true; }},
     OptionRow{"--with",     "a list of groups", Add_groups},
     OptionRow{"--fields",   "a list of names",  Set_fields},
     OptionRow{"--batch",    nullptr,            [](Options& o, const std::string&) { o.batch = o.json = true; }},
     OptionRow{"--jobs",     "a whole number",   Set_jobs},
+    OptionRow{"--strict",   nullptr,            [](Options& o, const std::string&) { o.strict = true; }},
+    OptionRow{"--sweep",    "NAME=FROM:TO:STEP", [](Options& o, const std::string& value) { o.sweep.push_back(Parse_sweep(value)); }},
+    OptionRow{"--plot",     "a file",           [](Options& o, const std::string& value) { o.plot = value; }},
     OptionRow{"--save",     "a file",           [](Options& o, const std::string& value) { o.save = value; }},
     OptionRow{"--report",   "a file",           [](Options& o, const std::string& value) { o.report = value; }},
     OptionRow{"--pictures", "a folder",         [](Options& o, const std::string& value) { o.pictures = value; }},
@@ -151,11 +200,27 @@ constexpr std::array option_rows{
 };
 // clang-format on
 
+std::vector<std::string_view> Option_names() {
+    static const std::vector<std::string> named = [] {
+        std::vector<std::string> names;
+        for (const NamedInput& input : Named_inputs()) {
+            names.push_back("--" + std::string{input.name});
+        }
+        return names;
+    }();
+    std::vector<std::string_view> names{named.begin(), named.end()};
+    for (const OptionRow& row : option_rows) {
+        names.push_back(row.name);
+    }
+    return names;
+}
+
 const OptionRow& Find_option(const std::string& name) {
     const auto* const row =
         std::find_if(option_rows.begin(), option_rows.end(), [&](const OptionRow& one) { return one.name == name; });
     if (row == option_rows.end()) {
-        throw UsageError{"unknown option " + name + "; see tarnvik-check --help"};
+        throw UsageError{"unknown option " + Cut(name) + "; see tarnvik-check --help" +
+                         Nearest_names(name, Option_names())};
     }
     return *row;
 }
@@ -167,6 +232,14 @@ void Take_option(Options& options, const std::vector<std::string>& arguments, st
     if (const std::size_t equals = name.find('='); name.starts_with("--") && equals != std::string::npos) {
         attached = name.substr(equals + 1);
         name.resize(equals);
+    }
+    const bool named = name.starts_with("--") && Is_named_input(name.substr(2));
+    if (named) {
+        if (!attached && i + 1 == arguments.size()) {
+            throw UsageError{name + ": expected a value"};
+        }
+        options.named.emplace_back(name.substr(2), attached ? *attached : arguments[++i]);
+        return;
     }
     const OptionRow& row = Find_option(name);
     if (row.expected == nullptr) {
@@ -183,11 +256,35 @@ void Take_option(Options& options, const std::vector<std::string>& arguments, st
     }
 }
 
+void Check_sweep(const Options& options) {
+    constexpr std::size_t most_points = 100000;
+    if (options.plot && options.sweep.size() != 1) {
+        throw UsageError{"--plot: expected one --sweep beside it"};
+    }
+    if (options.sweep.empty()) {
+        return;
+    }
+    if (options.sweep.size() > 2 || (options.sweep.size() == 2 && options.sweep[0].name == options.sweep[1].name)) {
+        throw UsageError{"--sweep: expected one input, or two for a grid"};
+    }
+    if (options.batch || options.projects.size() > 1 || options.save || options.report || !options.with.empty() ||
+        options.fields) {
+        throw UsageError{"--sweep: expected one project or none, and no --batch, --save, --report, --with or --fields"};
+    }
+    if (options.sweep.size() == 2 && options.sweep[0].Count() * options.sweep[1].Count() > most_points) {
+        throw UsageError{"--sweep: expected a grid of at most 100000 points"};
+    }
+}
+
 void Check_combination(const Options& options) {
     if (options.batch && !options.projects.empty()) {
-        throw UsageError{"--batch starts every line from a new project: expected no project, got \"" +
-                         options.projects.front() + "\""};
+        throw UsageError{"--batch starts every line from a new project: expected no project, got " +
+                         Quoted(options.projects.front())};
     }
+    if (options.list && (options.batch || !options.projects.empty())) {
+        throw UsageError{"--list: expected no project and no batch beside it"};
+    }
+    Check_sweep(options);
     const bool several = options.batch || options.projects.size() > 1;
     if (options.save && several) {
         throw UsageError{"--save: expected one project, or none"};

@@ -6,19 +6,28 @@
 #include <utility>
 #include <vector>
 
+#include "check/Named_inputs.h"
+#include "check/Sweep.h"
+
 namespace tarnvik {
 
 struct Options {
     std::string data;                // --data; empty: the one that the program finds
     std::optional<std::string> lang; // --lang
     std::vector<std::pair<std::string, std::string>> set;
+    NamedValues named;               // --bolt and the like
+    std::optional<std::string> list; // --list
     bool json{};
     bool batch{};
     int jobs{1}; // --jobs: threads of a batch
+    bool strict{};
     bool help{};
     bool version{};
     std::vector<std::string> with;                  // groups
     std::optional<std::vector<std::string>> fields; // names of the state
+    bool checks{true};                              // the group `checks`: with --fields where it is asked for
+    std::vector<SweepRange> sweep;                  // --sweep
+    std::optional<std::string> plot;                // --plot: the SVG file
     std::optional<std::string> save;
     std::optional<std::string> report;   // --report: the PDF file
     std::optional<std::string> pictures; // --pictures: the folder

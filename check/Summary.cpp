@@ -1,11 +1,11 @@
 #include "check/Summary.h"
 
-#include <algorithm>
 #include <array>
 #include <cmath>
 #include <vector>
 
 #include "calc/Splitting.h"
+#include "session/Standing.h"
 #include "spacing/Catalogue.h"
 #include "spacing/Rules.h"
 
@@ -104,26 +104,25 @@ void Inputs(std::string& text, const ConnectionState& s) {
 }
 
 struct Mode {
-    std::string_view name;
+    char name;
     float value; // N
 };
 
 void Shear_plane(std::string& text, const ConnectionState& s) {
     std::vector<Mode> modes;
     if (s.dob_1 || s.dob_2) {
-        modes = {{"g", s.Fv_g}, {"h", s.Fv_h}, {"j", s.Fv_j}, {"k", s.Fv_k}};
+        modes = {{'g', s.Fv_g}, {'h', s.Fv_h}, {'j', s.Fv_j}, {'k', s.Fv_k}};
     } else {
-        modes = {{"a", s.Fv_a}, {"b", s.Fv_b}, {"c", s.Fv_c}, {"d", s.Fv_d}, {"e", s.Fv_e}, {"f", s.Fv_f}};
+        modes = {{'a', s.Fv_a}, {'b', s.Fv_b}, {'c', s.Fv_c}, {'d', s.Fv_d}, {'e', s.Fv_e}, {'f', s.Fv_f}};
     }
-    const auto least = std::min_element(modes.begin(), modes.end(),
-                                        [](const Mode& one, const Mode& other) { return one.value < other.value; });
+    const char governing = Governing_mode(s).mode;
     text += "\nCapacity of one bolt per shear plane, characteristic\n";
     for (const Mode& mode : modes) {
         std::string value = Right(Number(mode.value / 1000.0F, "0.00"), 8) + " kN";
-        if (mode.value == least->value) {
+        if (mode.name == governing) {
             value += "  governs";
         }
-        Line(text, std::string{"mode "} + std::string{mode.name}, value);
+        Line(text, std::string{"mode "} + mode.name, value);
     }
     if (s.Med_bulldog) {
         Line(text, "connector", Right(Number(s.Fv_Rk, "0.00"), 8) + " kN");
@@ -145,7 +144,7 @@ void Design(std::string& text, const ConnectionState& s) {
 
     text += "\nSplitting across the grain\n";
     if (s.Man_he_on) {
-        Line(text, "he", Number(s.man_he, "0") + " mm, given by hand: not checked here");
+        Line(text, "he", Number(s.man_he, "0") + " mm, given by hand: see the checks");
         return;
     }
     float h = 0.0F;

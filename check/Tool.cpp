@@ -9,9 +9,13 @@
 #include "calc/RuntimeFault.h"
 #include "check/Batch.h"
 #include "check/Inputs.h"
+#include "check/Lists.h"
+#include "check/Plot.h"
 #include "check/Recording.h"
 #include "check/Status.h"
 #include "check/Summary.h"
+#include "check/Validation.h"
+#include "data/SafeWrite.h"
 #include "data/SetupFile.h"
 #include "report/PrintReport.h"
 
@@ -29,6 +33,10 @@ int Tool::Run(const std::filesystem::path& folder) {
     if (report.setup) {
         err_ << "tarnvik-check: " << Setup_problem_text(*report.setup, folder, true) << "\n";
     }
+    if (options_.list) {
+        out_ << List_text(*s_, *options_.list, options_.json);
+        return exit_holds;
+    }
     if (options_.batch) {
         Set_all();
         return Run_batch(options_, *s_, in_, out_, err_);
@@ -44,6 +52,7 @@ void Tool::Set_all() {
     for (const auto& [name, value] : options_.set) {
         Set_input(*s_, name, value);
     }
+    Set_named_inputs(*s_, options_.named);
 }
 
 // ---------------------------------------------------------------------------------------------------------------------
@@ -81,18 +90,46 @@ int Tool::Project(const std::string& path) {
     return One(path);
 }
 
+// Tells what the inputs may not be, where the result does not. Under --strict that is an error.
+bool Tool::Acceptable(const std::string& project) {
+    remarks_ = {Invalid_inputs(*s_), std::nullopt};
+    if (!options_.json || options_.strict) {
+        for (const std::string& warning : remarks_.warnings) {
+            err_ << "tarnvik-check: " << project << (project.empty() ? "" : ": ")
+                 << (options_.strict ? "" : "warning: ") << warning << "\n";
+        }
+    }
+    return !options_.strict || remarks_.warnings.empty();
+}
+
 // A pass, its result and what was asked to be written.
 int Tool::One(const std::string& project) {
+    if (!Acceptable(project)) {
+        return exit_usage;
+    }
+    if (!options_.sweep.empty()) {
+        return Sweep();
+    }
     messages_.messages.clear();
+    judge_.Begin();
     const PassResult result = session_.First_pass();
+    judge_.After_pass(*s_, result, true);
+    const Judgement judgement = judge_.Judge_results(*s_);
     if (options_.json) {
+        if (options_.checks) {
+            remarks_.checks = judgement;
+        }
         std::string json;
-        Append_result(json, options_, project, *s_, session_.Shown(), result, messages_, Recording(session_, clock_));
+        Append_result(json, options_, project, *s_, session_.Shown(), result, messages_, Recording(session_, clock_),
+                      remarks_);
         out_ << json << "\n";
     } else {
-        out_ << Summary(project, *s_, result, messages_);
+        out_ << Summary(project, *s_, result, messages_) << Checks_summary(judgement);
     }
     int status = Status(*s_, result);
+    if (options_.strict) {
+        status = Strict_status(status, judgement);
+    }
     if (options_.report) {
         status = Worse(status, Write_report(result));
     }
@@ -101,6 +138,74 @@ int Tool::One(const std::string& project) {
     }
     return status;
 }
+
+// ---------------------------------------------------------------------------------------------------------------------
+// A sweep
+
+int Tool::Sweep() {
+    const ConnectionValues fresh = *s_;
+    const SweepRange& first = options_.sweep.front();
+    const SweepRange* const second = options_.sweep.size() > 1 ? &options_.sweep[1] : nullptr;
+    std::string table = options_.json ? std::string{} : Sweep_heading(options_.sweep); // none where a value is refused
+    int status = exit_holds;
+    std::vector<SweepPoint> points;
+    for (std::size_t i = 0; i < first.Count(); ++i) {
+        for (std::size_t k = 0; k < (second != nullptr ? second->Count() : 1); ++k) {
+            static_cast<ConnectionValues&>(*s_) = fresh;
+            std::vector<double> values{first.Value(i)};
+            NamedValues inputs{{first.name, first.Text(i)}};
+            if (second != nullptr) {
+                values.push_back(second->Value(k));
+                inputs.emplace_back(second->name, second->Text(k));
+            }
+            SweepPoint point = Point(values, inputs, status);
+            table += options_.json ? Sweep_json(options_.sweep, point) : Sweep_line(point);
+            if (options_.plot) {
+                points.push_back(std::move(point));
+            }
+        }
+    }
+    out_ << table;
+    return options_.plot ? Worse(status, Write_plot(points)) : status;
+}
+
+// Errors: throws UsageError, also for what --strict refuses.
+SweepPoint Tool::Point(const std::vector<double>& values, const NamedValues& inputs, int& status) {
+    NamedValues named;
+    for (const auto& [name, value] : inputs) {
+        if (Is_named_input(name)) {
+            named.emplace_back(name, value);
+        } else {
+            Set_input(*s_, name, value);
+        }
+    }
+    Set_named_inputs(*s_, named);
+    SweepPoint point{values, Invalid_inputs(*s_), {}};
+    if (options_.strict && !point.warnings.empty()) {
+        throw UsageError{"--sweep: " + point.warnings.front()};
+    }
+    messages_.messages.clear();
+    judge_.Begin();
+    const PassResult result = session_.First_pass(Session::Showing::nothing);
+    judge_.After_pass(*s_, result, true);
+    point.judgement = judge_.Judge_results(*s_);
+    const int plain = Status(*s_, result);
+    status = Worse(status, options_.strict ? Strict_status(plain, point.judgement) : plain);
+    return point;
+}
+
+int Tool::Write_plot(const std::vector<SweepPoint>& points) {
+    const std::string title = s_->Prosjekt + ", " + s_->Id;
+    try {
+        Safe_write(*options_.plot, Plot_sweep(options_.sweep.front(), points, title), {OldTail::drop}, "Write_plot");
+    } catch (const RuntimeFault& fault) {
+        err_ << "tarnvik-check: " << *options_.plot << ": cannot be written: " << fault.description << "\n";
+        return exit_usage;
+    }
+    return exit_holds;
+}
+
+// ---------------------------------------------------------------------------------------------------------------------
 
 int Tool::Write_report(const PassResult& result) {
     if (result.end != PassEnd::normal) {

@@ -8,6 +8,8 @@
 
 #include "calc/GlobalParameter.h"
 #include "calc/pass/Main_beregn.h"
+#include "check/Checks.h"
+#include "check/Json.h"
 #include "check/MessageLog.h"
 #include "check/Options.h"
 #include "ports/Rendering.h"
@@ -32,6 +34,10 @@ private:
     int Projects();
     int Project(const std::string& path);
     int One(const std::string& project);
+    int Sweep();
+    SweepPoint Point(const std::vector<double>& values, const NamedValues& inputs, int& status);
+    int Write_plot(const std::vector<SweepPoint>& points);
+    bool Acceptable(const std::string& project);
     int Write_report(const PassResult& result);
     int Save();
 
@@ -42,9 +48,11 @@ private:
     Rendering* rendering_;
     SystemClock clock_;
     MessageLog messages_; // of the last pass
+    Remarks remarks_;     // on it
     std::unique_ptr<ConnectionState> start_ = std::make_unique<ConnectionState>();
     std::unique_ptr<ConnectionState> s_ = std::make_unique<ConnectionState>();
     Session session_{*s_, *this};
+    Judge judge_{session_.Results()};
 };
 
 } // namespace tarnvik

@@ -68,5 +68,12 @@ project limtre Nor Prosjekt="Lagerhall på Høyanger" Id="Bjelke – søyle" \
 project small-connector Eng Prosjekt="Roof truss" Id="Connector too small" \
     Kun_bolt=false Med_bulldog=true Bulldog_index=0 dc=48 Bolt_index=3
 
+# A web of two pieces on a chord, by name: tension from 0 to 24 kN, and angles with their diagram.
+web_to_chord=(--lang Eng --joint 1.2 --member1 2x48x198 --member2 48x223 --material C24 --bolt M16x8.8 --bolts 2 --layout b
+    --load medium --service 1)
+keep web-to-chord.csv "${web_to_chord[@]}" --angle 40 --sweep tension=0:24:2
+keep web-to-chord-angles.csv "${web_to_chord[@]}" --set Prosjekt="Roof truss" --set Id="Web to chord, 12 kN" --tension 12 \
+    --sweep angle=0:90:5 --plot web-to-chord.svg
+
 batch force Rd_bolt,uf,Sb1,Sb3,he,Tverr_kontroll
 batch steps Con_code,Case_code,n_bolt,Rd_bolt,Rd_for,uf,Tverr_kontroll

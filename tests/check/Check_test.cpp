@@ -18,7 +18,7 @@ using test::ToolRun;
 
 TEST(Check, without_a_project_it_is_that_of_a_new_one) {
     const Json json = Tool({"--json"}).Object();
-    EXPECT_EQ(Names(json), (std::vector<std::string>{"end", "messages", "state"}));
+    EXPECT_EQ(Names(json), (std::vector<std::string>{"end", "messages", "state", "checks"}));
     EXPECT_EQ(json["end"], "normal");
     EXPECT_EQ(json["messages"].size(), 0U);
     const Json& state = json["state"];
@@ -144,7 +144,7 @@ TEST(Check, the_screen_on_request) {
 
 TEST(Check, the_tables_of_distances_and_the_picture_keys_on_request) {
     const Json json = Tool({"--with", "tables,pictures"}).Object();
-    EXPECT_EQ(Names(json), (std::vector<std::string>{"end", "messages", "state", "tables", "pictures"}));
+    EXPECT_EQ(Names(json), (std::vector<std::string>{"end", "messages", "state", "checks", "tables", "pictures"}));
     EXPECT_EQ(Names(json["tables"]), (std::vector<std::string>{"Pic_av_bolter_dif", "Pic_av_bulldog_dif"}));
     ASSERT_FALSE(json["tables"]["Pic_av_bolter_dif"].empty());
     EXPECT_EQ(Names(json["tables"]["Pic_av_bolter_dif"][0]),
@@ -169,7 +169,7 @@ TEST(Check, pictures_and_the_report_need_the_build_with_the_window) {
 
 TEST(Check, report_details_and_explanations_on_request) {
     const Json json = Tool({"--with", "report,detail,explanations"}).Object();
-    EXPECT_EQ(Names(json), (std::vector<std::string>{"end", "messages", "state", "report", "detail", "explanations"}));
+    EXPECT_EQ(Names(json), (std::vector<std::string>{"end", "messages", "state", "checks", "report", "detail", "explanations"}));
     EXPECT_EQ(json["report"].back().dump(), R"({"page":2,"op":"EndDoc"})");
     EXPECT_FALSE(json["detail"].empty());
     EXPECT_FALSE(json["explanations"].empty());
@@ -446,7 +446,6 @@ TEST(CheckBatch, a_bad_line_is_told_and_the_run_goes_on) {
     };
     // clang-format off
     const Row rows[] = {
-        {"",                          "expected JSON"},
         {"{",                         "expected JSON"},
         {"{} {}",                     "expected JSON"},
         {"P=1",                       "expected JSON"},

@@ -158,10 +158,20 @@ TEST_F(Program, the_same_results_as_within_this_process) {
 TEST_F(Program, results_that_cannot_be_written_are_no_success) {
     for (const std::vector<std::string>& arguments :
          {std::vector<std::string>{"--set", "P=0.01"}, std::vector<std::string>{"--json", "--set", "P=0.01"},
-          std::vector<std::string>{"--batch"}}) {
+          std::vector<std::string>{"--batch"}, std::vector<std::string>{"--help"},
+          std::vector<std::string>{"--version"}, std::vector<std::string>{"--list", "bolts"}}) {
         const ProgramRun run = Start(arguments, "{\"P\":0.01}\n", "/dev/full");
         EXPECT_EQ(run.status, 2);
         EXPECT_EQ(run.err, "tarnvik-check: the results cannot be written\n");
+    }
+}
+
+TEST_F(Program, standard_input_that_cannot_be_read_is_an_error) {
+    for (const char* stream : {" </", " <&-"}) { // a folder; none at all
+        const ProgramRun run = Start({"-c", std::string{program} + " --batch" + stream}, {}, {}, "/bin/sh");
+        EXPECT_EQ(run.status, 2) << stream;
+        EXPECT_EQ(run.err, "tarnvik-check: standard input cannot be read\n") << stream;
+        EXPECT_EQ(run.out, "") << stream;
     }
 }
 

@@ -1,0 +1,218 @@
+#include "check/Checks.h"
+
+#include <array>
+#include <cstddef>
+#include <string_view>
+
+#include "calc/RuntimeFault.h"
+#include "calc/Screen.h"
+#include "calc/Splitting.h"
+#include "calc/Text.h"
+#include "check/JsonList.h"
+#include "check/Status.h"
+
+namespace tarnvik {
+
+namespace {
+
+// clang-format off
+// The checks by their names in the JSON and the summary, with the clauses of EN 1995-1-1. Row = Check.
+struct CheckRow {
+    std::string_view name;
+    std::string_view clause;
+    bool length; // mm; otherwise a ratio
+};
+constexpr std::array<CheckRow, check_count> check_rows{{
+    {"bolts",            "8.2.2, 8.5.1",             false},
+    {"splitting",        "8.1.4",                    false},
+    {"fits_a",           "table 8.4",                true},
+    {"fits_b",           "table 8.4",                true},
+    {"connectors_fit_a", "8.10, tables 8.7 to 8.9",  true},
+    {"connectors_fit_b", "8.10, tables 8.7 to 8.9",  true},
+}};
+// clang-format on
+
+// The utilisation is that of bolts and connectors together.
+std::string_view Clause(const Verdict& verdict, std::size_t i) {
+    const bool both = i == static_cast<std::size_t>(Check::utilisation) && verdict[Check::connectors_fit_1].applies;
+    return both ? "8.2.2, 8.5.1, 8.10" : check_rows[i].clause;
+}
+
+bool Is_splitting(std::size_t i) {
+    return i == static_cast<std::size_t>(Check::splitting);
+}
+
+void Append_check(std::string& json, const Judgement& judgement, std::size_t i) {
+    const CheckResult& check = judgement.verdict.checks[i];
+    JsonList object{json, '{', '}'};
+    if (check.checked) {
+        object.Member("value", check.value);
+    } else {
+        object.Null("value");
+    }
+    object.Member("limit", check.limit);
+    if (check.checked) {
+        object.Member("holds", !check.Fails());
+    } else {
+        object.Null("holds");
+    }
+    object.Member("clause", Clause(judgement.verdict, i));
+    if (Is_splitting(i)) {
+        object.Member("he_typed", judgement.he_typed);
+        object.Member("current", check.checked);
+    }
+}
+
+void Append_holds(JsonList& object, std::optional<bool> holds) {
+    if (holds) {
+        object.Member("holds", *holds);
+    } else {
+        object.Null("holds");
+    }
+}
+
+// A value that fails is shown in full where rounding would hide it.
+std::string Compared(const CheckResult& check, std::string_view picture) {
+    const std::string limit{Trim(Format(check.limit, picture))};
+    std::string value{Trim(Format(check.value, picture))};
+    if (check.Fails() && value == limit) {
+        value = Shortest(check.value).View();
+    }
+    return value + (check.Fails() ? " > " : " <= ") + limit;
+}
+
+void Add_line(std::string& text, std::string_view name, std::string_view value, std::string_view clause = {}) {
+    const std::size_t begin = text.size();
+    text += "  ";
+    text += name;
+    text.append(begin + 20 > text.size() ? begin + 20 - text.size() : 1, ' ');
+    text += value;
+    if (!clause.empty()) {
+        text.append(begin + 44 > text.size() ? begin + 44 - text.size() : 1, ' ');
+        text += clause;
+    }
+    text += "\n";
+}
+
+} // namespace
+
+std::optional<bool> Judgement::Holds() const {
+    for (const CheckResult& check : verdict.checks) {
+        if (not_current.empty() && check.Fails()) {
+            return false;
+        }
+    }
+    return not_current.empty() && verdict.Holds() ? std::optional{true} : std::nullopt;
+}
+
+void Judge::Begin() {
+    results_.Forget_splitting();
+    typed_.reset();
+}
+
+void Judge::After_pass(const ConnectionValues& s, const PassResult& result, bool typed) {
+    if (result.end == PassEnd::normal && s.Man_he_on && typed) {
+        Check_typed_he(s);
+    }
+}
+
+// As leaving its box does: a he outside the member is refused there, and one as large as the member's height leaves
+// the check undone, since it divides by zero.
+void Judge::Check_typed_he(const ConnectionValues& s) {
+    Begin();
+    float h = 0.0F;
+    float b = 0.0F;
+    Get_splitting_member(s, h, b);
+    if (!(s.man_he > 0.0F && s.man_he <= h)) {
+        return;
+    }
+    ConnectionValues checked = s;
+    checked.he = s.man_he;
+    try {
+        Tverr_brudd(checked, h, checked.he, b, ScreenWriter{nullptr});
+    } catch (const RuntimeFault&) {
+        return;
+    }
+    typed_ = {checked.he, checked.F90_Rd, checked.P_sin, checked.Tverr_kontroll};
+    results_.Note_splitting(checked);
+}
+
+Judgement Judge::Judge_results(const ConnectionValues& s) const {
+    Judgement judgement;
+    judgement.not_current = results_.Not_current(s, Is_english(s));
+    judgement.governing = Governing_mode(s);
+    judgement.he_typed = s.Man_he_on;
+    if (!s.Man_he_on) {
+        judgement.verdict = Verdict_of(s, results_.Splitting_current(s));
+        return judgement;
+    }
+    ConnectionValues seen = s;
+    if (typed_) {
+        seen.he = typed_->he;
+        seen.F90_Rd = typed_->F90_Rd;
+        seen.P_sin = typed_->P_sin;
+        seen.Tverr_kontroll = typed_->Tverr_kontroll;
+    }
+    judgement.verdict = Verdict_of(seen, typed_ && results_.Splitting_current(seen));
+    return judgement;
+}
+
+std::string_view Check_name(std::size_t i) {
+    return check_rows[i].name;
+}
+
+std::string Judgement_text(const Judgement& judgement, bool english) {
+    return judgement.not_current.empty() ? Verdict_text(judgement.verdict, english) : judgement.not_current;
+}
+
+void Append_checks(std::string& json, const Judgement& judgement, bool english) {
+    JsonList object{json, '{', '}'};
+    Append_holds(object, judgement.Holds());
+    object.Member("text", Judgement_text(judgement, english));
+    if (!judgement.not_current.empty()) {
+        return;
+    }
+    for (std::size_t i = 0; i < check_count; ++i) {
+        if (judgement.verdict.checks[i].applies) {
+            object.Name(check_rows[i].name);
+            Append_check(json, judgement, i);
+        }
+    }
+    object.Name("governing");
+    JsonList mode{json, '{', '}'};
+    mode.Member("mode", std::string_view{&judgement.governing.mode, 1});
+    mode.Member("equation", judgement.governing.equation);
+    mode.Member("value", judgement.governing.value);
+}
+
+std::string Checks_summary(const Judgement& judgement) {
+    if (!judgement.not_current.empty()) {
+        return {};
+    }
+    std::string text = "\nChecks\n";
+    for (std::size_t i = 0; i < check_count; ++i) {
+        const CheckResult& check = judgement.verdict.checks[i];
+        if (!check.applies) {
+            continue;
+        }
+        std::string value = check.checked ? Compared(check, check_rows[i].length ? "0.0" : "0.00") : "not checked";
+        if (check.checked && check_rows[i].length) {
+            value += " mm";
+        }
+        const bool typed = Is_splitting(i) && judgement.he_typed;
+        Add_line(text, check_rows[i].name, value,
+                 std::string{Clause(judgement.verdict, i)} + (typed ? ", he given by hand" : ""));
+    }
+    const GoverningMode& mode = judgement.governing;
+    Add_line(text, "governing mode", std::string{mode.mode} + ", (" + std::string{mode.equation} + ")",
+             std::string{Trim(Format(mode.value / 1000.0F, "0.00"))} + " kN");
+    Add_line(text, "verdict", Verdict_text(judgement.verdict, true));
+    return text;
+}
+
+int Strict_status(int plain, const Judgement& judgement) {
+    const bool fails = plain == exit_holds && judgement.Holds() != std::optional{true};
+    return fails ? exit_fails : plain;
+}
+
+} // namespace tarnvik

@@ -169,7 +169,8 @@ TEST(Check, pictures_and_the_report_need_the_build_with_the_window) {
 
 TEST(Check, report_details_and_explanations_on_request) {
     const Json json = Tool({"--with", "report,detail,explanations"}).Object();
-    EXPECT_EQ(Names(json), (std::vector<std::string>{"end", "messages", "state", "checks", "report", "detail", "explanations"}));
+    EXPECT_EQ(Names(json),
+              (std::vector<std::string>{"end", "messages", "state", "checks", "report", "detail", "explanations"}));
     EXPECT_EQ(json["report"].back().dump(), R"({"page":2,"op":"EndDoc"})");
     EXPECT_FALSE(json["detail"].empty());
     EXPECT_FALSE(json["explanations"].empty());

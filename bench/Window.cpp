@@ -1,5 +1,6 @@
 // What the user waits for: from the Tab that leaves a box to the window painted anew, and from the start of the process
-// to the first sight of the window. Without a display, unless QT_QPA_PLATFORM says otherwise.
+// to the first sight of the window; and how many widgets are painted, what is asked of operator new, how much memory
+// the process has held at most. Without a display, unless QT_QPA_PLATFORM says otherwise.
 #include <QAbstractButton>
 #include <QApplication>
 #include <QKeyEvent>
@@ -11,10 +12,12 @@
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
+#include <fstream>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "bench/Allocations.h"
 #include "frontend/controls/Controls.h"
 #include "frontend/controls/Scrolling.h"
 #include "frontend/controls/Style.h"
@@ -83,10 +86,21 @@ double Milliseconds(Clock::duration time) {
     return std::chrono::duration<double, std::milli>(time).count();
 }
 
-void Print(const char* what, std::vector<double> times) {
-    std::sort(times.begin(), times.end());
-    std::printf("%-28s median %7.2f ms   worst %7.2f ms   of %zu\n", what, times[times.size() / 2], times.back(),
-                times.size());
+void Print(const char* what, std::vector<double> values, const char* unit = "ms") {
+    std::sort(values.begin(), values.end());
+    std::printf("%-28s median %7.2f %-7s worst %7.2f %-7s of %zu\n", what, values[values.size() / 2], unit,
+                values.back(), unit, values.size());
+}
+
+// The most that this process has held so far. What the system tells of its use includes the parent's before the start.
+double Peak_megabytes() {
+    std::ifstream status{"/proc/self/status"};
+    for (std::string word; status >> word;) {
+        if (double kilobytes = 0.0; word == "VmHWM:" && status >> kilobytes) {
+            return kilobytes / 1024.0;
+        }
+    }
+    return 0.0;
 }
 
 void Press(QWidget& widget, int key) {
@@ -125,15 +139,20 @@ int Measure_window(QApplication& application) {
     auto& utilisation = Find<QWidget>(window, "Lbl_uf");
     std::vector<double> dirty;
     std::vector<double> whole;
+    std::vector<double> widgets;
+    std::vector<double> asked;
     for (int i = 0; i < presses; ++i) {
         box.setFocus(Qt::OtherFocusReason);
         box.setText(QString::number(5 + i % 7));
         Settle();
         painted.widgets.clear();
+        const long before = tarnvik::Allocations();
         const auto start = Clock::now();
         Press(box, Qt::Key_Tab);
         Settle();
         const auto shown = Clock::now();
+        asked.push_back(static_cast<double>(tarnvik::Allocations() - before));
+        widgets.push_back(static_cast<double>(painted.widgets.size()));
         const bool seen = painted.widgets.contains(&box) && painted.widgets.contains(&utilisation);
         ground.repaint();
         const auto all_shown = Clock::now();
@@ -145,6 +164,8 @@ int Measure_window(QApplication& application) {
         whole.push_back(Milliseconds(all_shown - start));
     }
     Print("Tab to what changed painted", dirty);
+    Print("  painted", widgets, "widgets");
+    Print("  operator new", asked, "calls");
     Print("and then the whole window", whole);
 
     // Another connection each time: three pictures that were not shown before are composed and painted.
@@ -166,6 +187,7 @@ int Measure_window(QApplication& application) {
         }
     }
     Print("type to new pictures painted", pictures);
+    std::printf("peak memory after all that %17.1f MB\n", Peak_megabytes());
     return 0;
 }
 
@@ -180,12 +202,13 @@ int Start_once(Clock::time_point begun) {
         QApplication::processEvents();
     }
     QApplication::processEvents(); // the rest of the same paint, and what goes to the display
-    std::printf("%.3f\n", Milliseconds(Clock::now() - begun));
+    std::printf("%.3f %.3f\n", Milliseconds(Clock::now() - begun), Peak_megabytes());
     return 0;
 }
 
 int Measure_starts() {
     std::vector<double> times;
+    std::vector<double> peaks;
     for (int i = 0; i < starts; ++i) {
         QProcess child;
         child.setProcessChannelMode(QProcess::ForwardedErrorChannel);
@@ -195,10 +218,13 @@ int Measure_starts() {
             std::fprintf(stderr, "the start failed\n");
             return 1;
         }
-        times.push_back(child.readAllStandardOutput().trimmed().toDouble());
+        const QList<QByteArray> measured = child.readAllStandardOutput().trimmed().split(' ');
+        times.push_back(measured.front().toDouble());
+        peaks.push_back(measured.back().toDouble());
     }
     std::printf("first start %34.2f ms\n", times.front());
     Print("start to window painted", times);
+    Print("  peak memory", peaks, "MB");
     return 0;
 }
 

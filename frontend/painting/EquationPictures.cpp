@@ -1,5 +1,6 @@
 #include "frontend/painting/EquationPictures.h"
 
+#include <QFile>
 #include <QRectF>
 #include <QString>
 #include <QSvgRenderer>
@@ -42,6 +43,12 @@ std::optional<QSizeF> Equation_size(std::string_view key, double letter) {
         return std::nullopt;
     }
     return picture.viewBoxF().size() * (letter / units_per_letter);
+}
+
+std::string Equation_svg(std::string_view key) {
+    Ask_for_resources();
+    QFile file{File_of(key)};
+    return file.open(QIODevice::ReadOnly) ? file.readAll().toStdString() : std::string{};
 }
 
 bool Paint_equation(std::string_view key, QPainter& painter, const QRectF& room, double letter,

@@ -7,6 +7,7 @@
 #include <system_error>
 
 #include "calc/StateFields.h"
+#include "check/Find.h"
 #include "check/Lists.h"
 #include "check/Nearest.h"
 
@@ -65,6 +66,12 @@ opened and checked.
                      verdicts over a range of an input, as CSV, or JSON with --json;
                      two of them give a grid
   --plot FILE.svg    draw the utilisations over the input of --sweep
+  --find             every bolt, number, layout and spacing of the bolts that holds and
+                     fits, fewest bolts first; as a table, CSV or JSON
+  --with-connectors  look among connectors too
+  --fix NAME=VALUE,...
+                     keep some of bolt,bolts,connector,layout,spacing
+  --csv              CSV instead of the table of --find
   --save FILE        save the project after the check
   --report FILE.pdf  write the two-page report
   --pictures DIR     write every stored picture, as PNG and SVG, under its key
@@ -93,7 +100,7 @@ Inputs (NAME): flags take true or false, the others a number or a text.
 
 Exit status: 0 all calculated and no utilisation above 1.0; 1 all calculated, some
 utilisation above 1.0, or with --strict something that does not fit or was not
-checked; 2 wrong usage or unreadable input; 3 a check was stopped or its arithmetic
+checked, or nothing found; 2 wrong usage or unreadable input; 3 a check was stopped or its arithmetic
 failed.
 )";
     return text;
@@ -171,6 +178,12 @@ void Set_jobs(Options& options, const std::string& value) {
     }
 }
 
+void Set_fixed(Options& options, const std::string& value) {
+    for (auto& fixed : Parse_fixed(value)) {
+        options.fix.push_back(std::move(fixed));
+    }
+}
+
 // An option, what it expects as its value (null: it takes none) and what it does.
 struct OptionRow {
     std::string_view name;
@@ -192,6 +205,10 @@ constexpr std::array option_rows{
     OptionRow{"--strict",   nullptr,            [](Options& o, const std::string&) { o.strict = true; }},
     OptionRow{"--sweep",    "NAME=FROM:TO:STEP", [](Options& o, const std::string& value) { o.sweep.push_back(Parse_sweep(value)); }},
     OptionRow{"--plot",     "a file",           [](Options& o, const std::string& value) { o.plot = value; }},
+    OptionRow{"--find",     nullptr,            [](Options& o, const std::string&) { o.find = true; }},
+    OptionRow{"--with-connectors", nullptr,     [](Options& o, const std::string&) { o.with_connectors = true; }},
+    OptionRow{"--fix",      "NAME=VALUE,...",   Set_fixed},
+    OptionRow{"--csv",      nullptr,            [](Options& o, const std::string&) { o.csv = true; }},
     OptionRow{"--save",     "a file",           [](Options& o, const std::string& value) { o.save = value; }},
     OptionRow{"--report",   "a file",           [](Options& o, const std::string& value) { o.report = value; }},
     OptionRow{"--pictures", "a folder",         [](Options& o, const std::string& value) { o.pictures = value; }},
@@ -256,6 +273,39 @@ void Take_option(Options& options, const std::vector<std::string>& arguments, st
     }
 }
 
+// What is not the check of one connection with its result has neither groups nor files of it.
+void Check_alone(const Options& options, const std::string& option) {
+    if (options.batch || options.projects.size() > 1 || options.save || options.report || !options.with.empty() ||
+        options.fields) {
+        throw UsageError{option +
+                         ": expected one project or none, and no --batch, --save, --report, --with or --fields"};
+    }
+}
+
+void Check_find(const Options& options) {
+    if (!options.find) {
+        if (options.with_connectors || !options.fix.empty()) {
+            throw UsageError{std::string{options.with_connectors ? "--with-connectors" : "--fix"} +
+                             ": expected --find beside it"};
+        }
+        return;
+    }
+    Check_alone(options, "--find");
+    if (!options.sweep.empty()) {
+        throw UsageError{"--find, --sweep: expected one of them, got both"};
+    }
+    Refuse_searched_inputs(options);
+}
+
+void Check_csv(const Options& options) {
+    if (options.csv && options.json) {
+        throw UsageError{"--csv, --json: expected one of them, got both"};
+    }
+    if (options.csv && !options.find && options.sweep.empty()) {
+        throw UsageError{"--csv: expected --find or --sweep beside it"};
+    }
+}
+
 void Check_sweep(const Options& options) {
     constexpr std::size_t most_points = 100000;
     if (options.plot && options.sweep.size() != 1) {
@@ -267,10 +317,7 @@ void Check_sweep(const Options& options) {
     if (options.sweep.size() > 2 || (options.sweep.size() == 2 && options.sweep[0].name == options.sweep[1].name)) {
         throw UsageError{"--sweep: expected one input, or two for a grid"};
     }
-    if (options.batch || options.projects.size() > 1 || options.save || options.report || !options.with.empty() ||
-        options.fields) {
-        throw UsageError{"--sweep: expected one project or none, and no --batch, --save, --report, --with or --fields"};
-    }
+    Check_alone(options, "--sweep");
     if (options.sweep.size() == 2 && options.sweep[0].Count() * options.sweep[1].Count() > most_points) {
         throw UsageError{"--sweep: expected a grid of at most 100000 points"};
     }
@@ -285,6 +332,8 @@ void Check_combination(const Options& options) {
         throw UsageError{"--list: expected no project and no batch beside it"};
     }
     Check_sweep(options);
+    Check_find(options);
+    Check_csv(options);
     const bool several = options.batch || options.projects.size() > 1;
     if (options.save && several) {
         throw UsageError{"--save: expected one project, or none"};

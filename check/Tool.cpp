@@ -8,6 +8,7 @@
 
 #include "calc/RuntimeFault.h"
 #include "check/Batch.h"
+#include "check/Find.h"
 #include "check/Inputs.h"
 #include "check/Lists.h"
 #include "check/Plot.h"
@@ -104,6 +105,9 @@ bool Tool::Acceptable(const std::string& project) {
 
 // A pass, its result and what was asked to be written.
 int Tool::One(const std::string& project) {
+    if (options_.find) {
+        return Find(project);
+    }
     if (!Acceptable(project)) {
         return exit_usage;
     }
@@ -137,6 +141,27 @@ int Tool::One(const std::string& project) {
         status = Worse(status, Save());
     }
     return status;
+}
+
+// ---------------------------------------------------------------------------------------------------------------------
+// A search
+
+int Tool::Find(const std::string& project) {
+    const SearchLimits limits = Search_limits(options_.fix, options_.with_connectors);
+    Set_fasteners(*s_, limits.First()); // what the joint has of them itself counts for nothing
+    if (!Acceptable(project)) {
+        return exit_usage;
+    }
+    const SearchResult result = Search_fasteners(*s_, limits, true);
+    if (options_.json) {
+        out_ << Found_json(result, remarks_.warnings);
+    } else if (options_.csv) {
+        out_ << Found_csv(result);
+        err_ << (result.found.empty() ? "tarnvik-check: " + Nothing_found_text(result) : "");
+    } else {
+        out_ << Found_table(result);
+    }
+    return Search_status(result);
 }
 
 // ---------------------------------------------------------------------------------------------------------------------

@@ -6,10 +6,10 @@
 # Only missing packages are installed, and where nothing is missing no network is needed. Needs root, or sudo.
 # shellcheck shell=bash disable=SC2034
 
-# Compiler and build system, GoogleTest, JSON (general and fast), Qt 6 with PrintSupport and Svg, the fonts of the window and the report, and
-# what the tests read a printed report and make regional settings with.
+# Compiler and build system, GoogleTest, JSON (general and fast), CSV, Qt 6 with PrintSupport and Svg, the fonts of the
+# window and the report, and what the tests read a printed report and make regional settings with.
 build_packages=(
-    g++ cmake ninja-build libgtest-dev nlohmann-json3-dev libsimdjson-dev
+    g++ cmake ninja-build libgtest-dev nlohmann-json3-dev libsimdjson-dev libcsv-dev
     qt6-base-dev qt6-svg-dev fonts-liberation poppler-utils python3 locales
 )
 

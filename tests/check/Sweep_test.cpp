@@ -72,7 +72,7 @@ TEST(Sweep, a_point_is_the_check_of_its_inputs) {
 TEST(Sweep, a_table_with_a_line_a_point) {
     const auto lines = Text_lines(Tool(Joint({"--tension", "5", "--sweep", "Txt_h2=150:200:50"})).out);
     ASSERT_EQ(lines.size(), 3U);
-    EXPECT_EQ(lines[0], "Txt_h2,bolts,splitting,fits_a,fits_a_limit,fits_b,fits_b_limit,connectors_fit_a,"
+    EXPECT_EQ(lines[0], "Txt_h2,utilisation,splitting,fits_a,fits_a_limit,fits_b,fits_b_limit,connectors_fit_a,"
                         "connectors_fit_a_limit,connectors_fit_b,connectors_fit_b_limit,governing,holds,text,warnings");
     const auto columns = std::count(lines[0].begin(), lines[0].end(), ',');
     for (const std::string& line : lines) {

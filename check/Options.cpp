@@ -74,6 +74,8 @@ opened and checked.
   --csv              CSV instead of the table of --find
   --save FILE        save the project after the check
   --report FILE.pdf  write the two-page report
+  --sheet FILE.html  write the check sheet: one page for a browser, two of A4 printed
+  --verify FILE.html calculate a check sheet again and hold it against that
   --pictures DIR     write every stored picture, as PNG and SVG, under its key
   --help             this text
   --version          the version
@@ -211,6 +213,8 @@ constexpr std::array option_rows{
     OptionRow{"--csv",      nullptr,            [](Options& o, const std::string&) { o.csv = true; }},
     OptionRow{"--save",     "a file",           [](Options& o, const std::string& value) { o.save = value; }},
     OptionRow{"--report",   "a file",           [](Options& o, const std::string& value) { o.report = value; }},
+    OptionRow{"--sheet",    "a file",           [](Options& o, const std::string& value) { o.sheet = value; }},
+    OptionRow{"--verify",   "a file",           [](Options& o, const std::string& value) { o.verify = value; }},
     OptionRow{"--pictures", "a folder",         [](Options& o, const std::string& value) { o.pictures = value; }},
     OptionRow{"--help",     nullptr,            [](Options& o, const std::string&) { o.help = true; }},
     OptionRow{"--version",  nullptr,            [](Options& o, const std::string&) { o.version = true; }},
@@ -337,6 +341,9 @@ void Check_combination(const Options& options) {
     const bool several = options.batch || options.projects.size() > 1;
     if (options.save && several) {
         throw UsageError{"--save: expected one project, or none"};
+    }
+    if (options.sheet && several) {
+        throw UsageError{"--sheet: expected one project, or none"};
     }
     if (options.report && several) {
         throw UsageError{"--report: expected one project, or none"};

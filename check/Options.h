@@ -33,6 +33,8 @@ struct Options {
     bool with_connectors{};                         // --with-connectors
     NamedValues fix;                                // --fix
     std::optional<std::string> save;
+    std::optional<std::string> sheet;    // --sheet: the HTML file
+    std::optional<std::string> verify;   // --verify: such a file
     std::optional<std::string> report;   // --report: the PDF file
     std::optional<std::string> pictures; // --pictures: the folder
     std::vector<std::string> projects;

@@ -24,7 +24,7 @@ constexpr int last_angle = 90;
 constexpr double width = 330.0;
 constexpr double height = 126.0;
 constexpr double left = 34.0;
-constexpr double right = 252.0;
+constexpr double right = 232.0;
 constexpr double top = 8.0;
 constexpr double bottom = 98.0;
 
@@ -99,9 +99,8 @@ public:
         const std::string w = Coordinate(width);
         const std::string h = Coordinate(height);
         svg_ = "<svg xmlns=\"http://www.w3.org/2000/svg\" role=\"img\" width=\"" + w + "\" height=\"" + h +
-               "\" viewBox=\"0 0 " + w + " " + h +
-               "\" font-family=\"'Liberation Sans', Arial, Helvetica, sans-serif\" font-size=\"10\">\n<title>" +
-               Escaped(title) + "</title>\n";
+               "\" viewBox=\"0 0 " + w + " " + h + "\" style=\"" + std::string{svg_letters} +
+               "; font-size: 10px\">\n<title>" + Escaped(title) + "</title>\n";
         Axes();
         Curve(&Capacity::bolts, "");
         Curve(&Capacity::splitting, " stroke-dasharray=\"6 3\"");
@@ -170,8 +169,9 @@ private:
         svg_ += "<line " + Attributes(right + 8.0, y, right + 26.0, y) + " stroke=\"#000\" stroke-width=\"1.5\"";
         svg_ += look;
         svg_ += "/>\n";
-        svg_ += "<text x=\"" + Coordinate(right + 29.0) + "\" y=\"" + Coordinate(y + 3.5) + "\" font-size=\"8\">" +
-                Escaped(words.In(facts_.english)) + "</text>\n";
+        svg_ += "<text x=\"" + Coordinate(right + 29.0) + "\" y=\"" + Coordinate(y + 3.5) + "\" font-size=\"8\">";
+        svg_ += words.In(facts_.english);
+        svg_ += "</text>\n";
     }
 
     void Demand() {
@@ -180,7 +180,7 @@ private:
         svg_ += "<line " + Attributes(left, Y(force), right, Y(force)) + " stroke=\"#000\" stroke-width=\"1.2\"";
         svg_ += look;
         svg_ += "/>\n";
-        Legend(look, Words{"FEd", "FEd"});
+        Legend(look, Words{R"(F<tspan dy="2" font-size="6">Ed</tspan>)"});
     }
 
     void Own_angle() {
@@ -196,8 +196,10 @@ private:
             }
         }
         const bool near_right = alp > 0.75 * last_angle;
-        svg_ += Text(X(alp) + (near_right ? -3.0 : 3.0), top + 9.0, near_right ? "end" : "start",
+        svg_ += "<g stroke=\"#fff\" stroke-width=\"3\" paint-order=\"stroke\">";
+        svg_ += Text(X(alp) + (near_right ? -3.0 : 3.0), bottom - 4.0, near_right ? "end" : "start",
                      "α = " + std::string{Trim(Format(facts_.s.alp, "0.0"))} + "°");
+        svg_ += "</g>\n";
     }
 
     const SheetFacts& facts_;

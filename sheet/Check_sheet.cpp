@@ -18,12 +18,14 @@ constexpr std::string_view style = R"(
 * { box-sizing: border-box; }
 body { font: 8pt/1.25 'Liberation Sans', Arial, Helvetica, sans-serif; color: #000; background: #fff; margin: 0 auto;
   max-width: 190mm; }
-math { font-size: 8.5pt; }
+math { font-family: "STIX Two Math", "Cambria Math", "STIX Math", "Latin Modern Math",
+  "DejaVu Math TeX Gyre", math, serif; font-size: 8pt;
+  math-style: normal; }
 header { display: flex; justify-content: space-between; align-items: baseline; border-bottom: 1.5pt solid #000; }
 h1 { font-size: 13pt; margin: 0 0 1mm; }
 h2 { font-size: 9pt; margin: 2mm 0 0.6mm; break-after: avoid; }
 p { margin: 0.6mm 0; }
-ul { margin: 0; padding-left: 4mm; }
+.unchecked { font-size: 7.5pt; } ul { margin: 0; padding-left: 4mm; }
 .verdict { font-size: 10.5pt; font-weight: bold; padding: 1mm 2mm; margin: 1.5mm 0; border: 1.2pt solid #000; }
 .verdict.holds { background: #e3f1e1; } .verdict.fails { background: #f9e0dd; } .verdict.open { background: #fdf3d0; }
 table { border-collapse: collapse; width: 100%; break-inside: avoid; }
@@ -41,7 +43,11 @@ td.fails { font-weight: bold; color: #a01010; }
 figure { margin: 0; text-align: center; break-inside: avoid; }
 figcaption { font-size: 7pt; }
 svg { max-width: 100%; height: auto; }
-.modes math { font-size: 7.5pt; } .formulas math { font-size: 7.5pt; }
+.modes math { font-size: 7pt; } .formulas math { font-size: 7.5pt; } .formulas td { white-space: nowrap; }
+.modes td, .formulas td:nth-child(2), .formulas thead th, .modes thead th { white-space: nowrap; }
+.distances { table-layout: fixed; } .distances th:nth-child(1) { width: 21mm; } .distances th:nth-child(3) { width: 20mm; }
+.distances th.n { width: 11mm; } .distances th:nth-child(2) { width: 42mm; }
+header div:last-child { text-align: right; }
 footer { margin-top: 2mm; border-top: 0.8pt solid #000; font-size: 7pt; }
 .second { break-before: page; }
 @media screen { body { padding: 6mm; } }
@@ -77,8 +83,7 @@ void Write_title(Page& page, const SheetFacts& facts, const Moment& now) {
              (english ? "Connection: " : "Forbindelse: ") + Plain(facts.s.Id).html + "<br>" + Plain(now.date).html +
              " " + Plain(now.time).html + "</div>\n</header>\n");
     const std::string text = Verdict_text(facts.verdict, english);
-    page.Add("<p class=\"verdict " + std::string{Verdict_look(facts.verdict)} + "\" role=\"status\">" +
-             Plain(text).html + "</p>\n");
+    page.Add("<p class=\"verdict " + std::string{Verdict_look(facts.verdict)} + "\">" + Plain(text).html + "</p>\n");
 }
 
 void Write_foot(Page& page, const SheetFacts& facts, const SheetRecord& record) {
@@ -102,13 +107,13 @@ std::string Check_sheet(const ConnectionState& s, const Verdict& verdict, const 
     Write_pictures(page, facts);
     Write_inputs(page, facts);
     Write_checks(page, facts);
-    Write_unchecked(page, facts);
+    Write_distances(page, facts);
     page.Add("<div class=\"second\">\n");
     Write_strengths(page, facts);
     Write_modes(page, facts);
     Write_capacities(page, facts);
     Write_splitting(page, facts);
-    Write_distances(page, facts);
+    Write_unchecked(page, facts);
     page.Add("</div>\n</main>\n");
     Write_foot(page, facts, record);
     return page.Html();

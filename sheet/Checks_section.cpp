@@ -1,6 +1,6 @@
 #include <algorithm>
-#include <array>
 #include <string>
+#include <vector>
 
 #include "calc/Text.h"
 #include "calc/Words.h"
@@ -69,12 +69,12 @@ std::string Holds_text(const SheetFacts& facts, const CheckResult& result) {
 // Bars
 
 constexpr double bars_width = 330.0;
-constexpr double name_width = 168.0; // of the column of names
-constexpr double bar_left = 172.0;
+constexpr double name_width = 158.0; // of the column of names
+constexpr double bar_left = 162.0;
 constexpr double one = 110.0; // the length of a bar of 1.0
 constexpr double bar_step = 17.0;
 constexpr double bar_height = 10.0;
-constexpr double longest = 1.3;
+constexpr double longest = 1.2;
 
 std::string Line(double x, double y1, double y2) {
     return "<line x1=\"" + Coordinate(x) + "\" y1=\"" + Coordinate(y1) + "\" x2=\"" + Coordinate(x) + "\" y2=\"" +
@@ -122,9 +122,8 @@ std::string Bars(const SheetFacts& facts, std::string_view title) {
     const std::string w = Coordinate(bars_width);
     const std::string h = Coordinate(y + 12.0);
     std::string svg = "<svg xmlns=\"http://www.w3.org/2000/svg\" role=\"img\" width=\"" + w + "\" height=\"" + h +
-                      "\" viewBox=\"0 0 " + w + " " + h +
-                      "\" font-family=\"'Liberation Sans', Arial, Helvetica, sans-serif\" font-size=\"10\">\n<title>" +
-                      Escaped(title) + "</title>\n";
+                      "\" viewBox=\"0 0 " + w + " " + h + "\" style=\"" + std::string{svg_letters} +
+                      "; font-size: 10px\">\n<title>" + Escaped(title) + "</title>\n";
     svg += hatching;
     svg += rows;
     svg += Line(bar_left, 0.0, y) + Line(bar_left + one, 0.0, y);
@@ -137,10 +136,12 @@ std::string Bars(const SheetFacts& facts, std::string_view title) {
 void Write_checks(Page& page, const SheetFacts& facts) {
     const bool english = facts.english;
     page.Heading(english ? "Checks" : "Kontroller");
-    const std::array<std::string, 6> headings{
-        english ? "Check" : "Kontroll",         "EN 1995-1-1",
-        english ? "Demand" : "Påvirkning",      english ? "Capacity" : "Kapasitet",
-        english ? "Utilisation" : "Utnyttelse", english ? "Result" : "Resultat"};
+    const std::vector<Cell> headings{english ? "Check" : "Kontroll",
+                                     "EN 1995-1-1",
+                                     {english ? "Demand" : "Påvirkning", "n"},
+                                     {english ? "Capacity" : "Kapasitet", "n"},
+                                     {english ? "Utilisation" : "Utnyttelse", "n"},
+                                     english ? "Result" : "Resultat"};
     page.Begin_table("checks", english ? "Checks with demand and capacity" : "Kontroller med påvirkning og kapasitet",
                      headings);
     for (std::size_t i = 0; i < check_count; ++i) {
@@ -160,7 +161,7 @@ void Write_checks(Page& page, const SheetFacts& facts) {
     }
     page.End_table();
     page.Add("<div class=\"pictures\">\n");
-    const Words title{"Utilisation of every check against 1.0", "Utnyttelse av hver kontroll mot 1,0"};
+    const Words title{"Utilisation of every check against 1", "Utnyttelse av hver kontroll mot 1"};
     page.Figure({}, Bars(facts, title.In(english)), title.In(english));
     Write_angle(page, facts);
     page.Add("</div>\n");

@@ -1,5 +1,4 @@
 #include <algorithm>
-#include <array>
 #include <cmath>
 #include <string>
 #include <vector>
@@ -75,11 +74,14 @@ private:
                 float connectors) {
         const bool english = facts_.english;
         const std::string name{Member_names_of(type_)[member].In(english)};
-        std::vector<std::string> headings{name, english ? "Distance" : "Avstand", "EN 1995-1-1",
-                                          english ? "Bolts, table 8.4" : "Bolter, tabell 8.4", "mm"};
+        std::vector<Cell> headings{name,
+                                   english ? "Distance" : "Avstand",
+                                   "EN 1995-1-1",
+                                   english ? "Bolts, table 8.4" : "Bolter, tabell 8.4",
+                                   {"mm", "n"}};
         if (s_.Med_bulldog) {
             headings.emplace_back(english ? "Connectors, table 8.8" : "Forbindere, tabell 8.8");
-            headings.emplace_back("mm");
+            headings.push_back({"mm", "n"});
         }
         page_.Begin_table("distances",
                           (english ? "Minimum distances in member " : "Minsteavstander i del ") +
@@ -100,7 +102,7 @@ private:
         std::vector<Cell> cells{label, role.words.In(facts_.english),
                                 Cell{Markup{std::string{role.base} + "<sub>" + std::string{role.index} + "</sub>"}}};
         const auto add = [&](std::string_view formula, const std::optional<float>& value) {
-            cells.push_back(formula.empty() ? Cell{"–"} : Cell{Markup{Formula{formula}.Symbols()}});
+            cells.push_back(formula.empty() ? Cell{"–"} : Cell{Markup{Formula{With_spacing(formula)}.Symbols()}});
             cells.push_back({value ? Shown(*value) : std::string{"–"}, "n"});
         };
         add(distance.S_formula, distance.S);
@@ -110,6 +112,15 @@ private:
         page_.Row(cells);
     }
 
+    // N is the chosen number.
+    [[nodiscard]] std::string With_spacing(std::string_view formula) const {
+        std::string text{formula};
+        if (const std::size_t at = text.find('N'); at != std::string::npos) {
+            text.replace(at, 1, std::to_string(s_.Avstand_index + 5));
+        }
+        return text;
+    }
+
     void Sum_row(std::size_t begin, int in_across, float h, float bolts, float connectors) {
         const bool english = facts_.english;
         std::string names;
@@ -117,7 +128,7 @@ private:
             names += names.empty() ? "" : " + ";
             names += Label_of(listed_[begin + static_cast<std::size_t>(i)].distance);
         }
-        std::vector<Cell> cells{"Sum", names, "–"};
+        std::vector<Cell> cells{"Sum", names, ""};
         const auto add = [&](float sum, std::optional<float> ListedDistance::*kind) {
             std::string note = Compared(sum, h);
             if (const std::string missing = Missing(begin, in_across, sum, kind); !missing.empty()) {

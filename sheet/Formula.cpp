@@ -14,7 +14,7 @@
 namespace tarnvik {
 
 struct Formula::Node {
-    enum class Kind : unsigned char { number, symbol, sum, difference, product, quotient, power, call };
+    enum class Kind : unsigned char { number, symbol, sum, difference, product, quotient, ratio, power, call };
 
     Kind kind{};
     std::string_view text{}; // of a number or the name of a function, which lies in the notation
@@ -86,6 +86,8 @@ private:
                 left = Join(Kind::product, std::move(left), Power());
             } else if (Take('/')) {
                 left = Join(Kind::quotient, std::move(left), Power());
+            } else if (Take(':')) {
+                left = Join(Kind::ratio, std::move(left), Power());
             } else {
                 return left;
             }
@@ -172,6 +174,10 @@ public:
                    In_brackets(*node.parts[1], Is_sum(*node.parts[1]));
         case Kind::quotient:
             return "<mfrac>" + Row(*node.parts[0]) + Row(*node.parts[1]) + "</mfrac>";
+        case Kind::ratio:
+            return "<mrow>" + In_brackets(*node.parts[0], Is_sum(*node.parts[0])) +
+                   R"(<mo lspace="0" rspace="0">/</mo>)" + In_brackets(*node.parts[1], !Is_atom(*node.parts[1])) +
+                   "</mrow>";
         case Kind::power:
             return Power(*node.parts[0], *node.parts[1]);
         case Kind::call:
@@ -256,6 +262,7 @@ double Evaluate(const Node& node, const ConnectionValues& s) {
     case Kind::product:
         return part(0) * part(1);
     case Kind::quotient:
+    case Kind::ratio:
         return part(0) / part(1);
     case Kind::power:
         return std::pow(part(0), part(1));
@@ -280,7 +287,8 @@ double Evaluate(const Node& node, const ConnectionValues& s) {
 
 } // namespace
 
-Formula::Formula(std::string_view notation) : root_(Reader{notation}.Whole()) {}
+Formula::Formula(std::string_view notation)
+    : notation_(std::make_unique<const std::string>(notation)), root_(Reader{*notation_}.Whole()) {}
 Formula::~Formula() = default;
 Formula::Formula(Formula&& other) noexcept = default;
 Formula& Formula::operator=(Formula&& other) noexcept = default;

@@ -1,8 +1,8 @@
 // Formulas in a short notation, "1.05*fh1k*t1*d/(2 + beta)": one text gives the formula as it is printed, the same with
 // the numbers put in, and its value, so that none of the three can differ from the others.
 //
-// The notation has numbers with ".", the names of sheet/Symbols.h, + - * / ^ ( ) with their usual order, and the
-// functions sqrt, sin, cos (degrees), max and min, whose arguments ";" separates.
+// The notation has numbers with ".", the names of sheet/Symbols.h, + - * / ^ ( ) with their usual order, ":" for a
+// division that is written on the line, and the functions sqrt, sin, cos (degrees), max and min, whose arguments ";" separates.
 #pragma once
 
 #include <memory>
@@ -34,6 +34,7 @@ public:
     struct Node;
 
 private:
+    std::unique_ptr<const std::string> notation_; // its pieces lie in the nodes
     std::unique_ptr<Node> root_;
 };
 

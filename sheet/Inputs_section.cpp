@@ -1,5 +1,7 @@
 #include <array>
 #include <cmath>
+#include <string>
+#include <vector>
 
 #include "calc/Text.h"
 #include "calc/Words.h"
@@ -52,7 +54,7 @@ std::string Member_2(const SheetFacts& facts) {
 
 std::string Joint_text(const SheetFacts& facts) {
     std::string text{Trim(facts.s.Con_code)};
-    text += facts.english ? ", bolts as in case " : ", bolter som i tilfelle ";
+    text += facts.english ? ", case " : ", tilfelle ";
     std::string_view code = Trim(facts.s.Case_code);
     if (code.ends_with('.')) {
         code.remove_suffix(1);
@@ -68,7 +70,7 @@ std::string Material_text(const SheetFacts& facts) {
     const ConnectionState& s = facts.s;
     const MatRecord* row = Row_of(s.Mat, s.Mat_index);
     std::string text{row == nullptr ? std::string_view{} : Trim(row->Id)};
-    return text + ", ρk = " + Shown(s.rho_k, "0") + " kg/m³, fc,90,k = " + Shown(s.fc90k, "0.00") + " N/mm²";
+    return text + ", ρ_{k} = " + Shown(s.rho_k, "0") + " kg/m³, f_{c,90,k} = " + Shown(s.fc90k, "0.00") + " N/mm²";
 }
 
 std::string Class_text(const SheetFacts& facts) {
@@ -80,14 +82,14 @@ std::string Class_text(const SheetFacts& facts) {
 }
 
 std::string Factors_text(const SheetFacts& facts) {
-    return "kmod = " + Shown(facts.s.kmod, "0.00") + ", γM = " + Shown(facts.s.gm, "0.00");
+    return "k_{mod} = " + Shown(facts.s.kmod, "0.00") + ", γ_{M} = " + Shown(facts.s.gm, "0.00");
 }
 
 std::string Bolts_text(const SheetFacts& facts) {
     const V& s = facts.s;
     const BoltRow* row = Row_of(bolt_table, s.Bolt_index);
     std::string text = Shown(s.n_bolt, "0") + " × " + std::string{row == nullptr ? std::string_view{} : row->caption};
-    text += ", fu,k = " + Shown(s.fuk, "0") + " N/mm²";
+    text += ", f_{u,k} = " + Shown(s.fuk, "0") + " N/mm²";
     if (s.Ab_valg) {
         text += facts.english ? ", arrangement " : ", plassering ";
         text += s.Bolt_ab.View();
@@ -114,13 +116,13 @@ std::string Connector_text(const SheetFacts& facts) {
         return facts.english ? "none" : "ingen";
     }
     std::string text{facts.english ? row->caption_eng : row->caption_nor};
-    return text + (facts.english ? ", type C1, dc = " : ", type C1, dc = ") + Shown(s.dc, "0") + " mm";
+    return text + ", type C1, d_{c} = " + Shown(s.dc, "0") + " mm";
 }
 
 std::string Force_text(const SheetFacts& facts) {
     const V& s = facts.s;
     const Words kind = s.P > 0.0F ? Words{"compression", "trykk"} : Words{"tension", "strekk"};
-    return "FEd = " + Shown(std::fabs(s.P), "0.00") + " kN " + std::string{kind.In(facts.english)};
+    return "F_{Ed} = " + Shown(std::fabs(s.P), "0.00") + " kN " + std::string{kind.In(facts.english)};
 }
 
 std::string He_text(const SheetFacts& facts) {
@@ -148,21 +150,21 @@ constexpr std::array<InputRow, 13> input_rows{{
     {{"Spacing along the grain",  "Avstand langs fibrene"},  Spacing_text},
     {{"Washers",                  "Skiver"},                 Washer_text},
     {{"Connectors",               "Forbindere"},             Connector_text},
-    {{"he of the splitting check","he for tverrstrekk"},     He_text},
+    {{"h_{e} for splitting",      "h_{e} for tverrstrekk"},     He_text},
 }};
 
 // The same in the manual and in the README.
 constexpr std::array<Words, 5> unchecked{{
     {"The members themselves: tension, compression and shear in the net section, block and plug shear (annex A), tear-out of the group.",
      "Delene selv: strekk, trykk og skjær i netto tverrsnitt, blokkutrivning (tillegg A), utrivning av gruppen."},
-    {"The distances as built: the minimum distances are summed and compared with the heights; ends and splitting are taken at the minimum distances unless he is given.",
-     "Avstandene som bygd: minsteavstandene summeres og sammenlignes med høydene; ender og tverrstrekk regnes ved minsteavstandene dersom he ikke er gitt."},
+    {"The distances as built: sums of minimum distances are compared with the heights; splitting is taken at these distances unless h_{e} is given.",
+     "Avstandene som bygd: summer av minsteavstander sammenlignes med høydene; tverrstrekk regnes ved disse dersom h_{e} ikke er gitt."},
     {"Eccentricity and moment, slip and stiffness, fire, fatigue, corrosion, moisture movements across the grain.",
      "Eksentrisitet og moment, forskyvning og stivhet, brann, utmatting, korrosjon, fuktbevegelser på tvers av fibrene."},
-    {"Connectors: characteristic capacity with the factor 25 (equation 8.72 has 18 for type C1), no factor for the end distance, no minimum thickness of the timber.",
-     "Forbindere: karakteristisk kapasitet med faktor 25 (ligning 8.72 har 18 for type C1), ingen faktor for endeavstand, ingen minste tykkelse av trevirket."},
-    {"All timber counts as softwood of one density (k90, kmod of one table); washers with a hole of d + 2 mm.",
-     "Alt trevirke regnes som bartre med én densitet (k90, kmod fra én tabell); skiver med hull d + 2 mm."},
+    {"Connectors: the factor of the capacity is 25, where (8.72) has 18 for type C1; no factor for the end distance, no minimum thickness.",
+     "Forbindere: faktoren i kapasiteten er 25, der (8.72) har 18 for type C1; ingen faktor for endeavstand, ingen minste tykkelse."},
+    {"All timber counts as softwood of one density (k_{90}, k_{mod} of one table); washers with a hole of d + 2 mm.",
+     "Alt trevirke regnes som bartre med én densitet (k_{90}, k_{mod} fra én tabell); skiver med hull d + 2 mm."},
 }};
 // clang-format on
 
@@ -189,14 +191,14 @@ void Write_pictures(Page& page, const SheetFacts& facts) {
 
 void Write_inputs(Page& page, const SheetFacts& facts) {
     page.Heading(facts.english ? "Inputs" : "Inndata");
-    const std::array<std::string, 2> headings{facts.english ? "Input" : "Størrelse", facts.english ? "Value" : "Verdi"};
+    const std::vector<Cell> headings{facts.english ? "Input" : "Størrelse", facts.english ? "Value" : "Verdi"};
     page.Add("<div class=\"halves\">\n");
     constexpr std::size_t in_first = 7;
     for (const std::size_t begin : {std::size_t{0}, in_first}) {
         page.Begin_table("inputs", facts.english ? "Inputs" : "Inndata", headings);
         const std::size_t end = begin == 0 ? in_first : input_rows.size();
         for (std::size_t i = begin; i < end; ++i) {
-            page.Row({input_rows[i].name.In(facts.english), input_rows[i].text(facts)});
+            page.Row({Indexed(input_rows[i].name.In(facts.english)), Indexed(input_rows[i].text(facts))});
         }
         page.End_table();
     }
@@ -205,9 +207,9 @@ void Write_inputs(Page& page, const SheetFacts& facts) {
 
 void Write_unchecked(Page& page, const SheetFacts& facts) {
     page.Heading(facts.english ? "What is not checked" : "Hva som ikke er kontrollert");
-    page.Add("<ul>\n");
+    page.Add("<ul class=\"unchecked\">\n");
     for (const Words& line : unchecked) {
-        page.Add("<li>" + Escaped(line.In(facts.english)) + "</li>\n");
+        page.Add("<li>" + Indexed(line.In(facts.english)).html + "</li>\n");
     }
     page.Add("</ul>\n");
 }

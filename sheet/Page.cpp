@@ -16,14 +16,25 @@ Markup Plain(std::string_view text) {
     return {Escaped(text)};
 }
 
+Markup Indexed(std::string_view text) {
+    std::string html = Escaped(text);
+    for (std::size_t at = html.find("_{"); at != std::string::npos; at = html.find("_{", at)) {
+        html.replace(at, 2, "<sub>");
+        if (const std::size_t end = html.find('}', at); end != std::string::npos) {
+            html.replace(end, 1, "</sub>");
+        }
+    }
+    return {html};
+}
+
 void Page::Heading(std::string_view text) {
     html_ += "<h2>" + Escaped(text) + "</h2>\n";
 }
 
-void Page::Begin_table(std::string_view look, std::string_view caption, std::span<const std::string> headings) {
+void Page::Begin_table(std::string_view look, std::string_view caption, const std::vector<Cell>& headings) {
     html_ += "<table" + Class(look) + ">\n<caption>" + Escaped(caption) + "</caption>\n<thead><tr>";
-    for (const std::string& heading : headings) {
-        html_ += "<th scope=\"col\">" + heading + "</th>";
+    for (const Cell& heading : headings) {
+        html_ += "<th scope=\"col\"" + Class(heading.look) + ">" + heading.markup.html + "</th>";
     }
     html_ += "</tr></thead>\n<tbody>\n";
 }

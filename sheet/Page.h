@@ -2,7 +2,6 @@
 // SVG) is given as Markup.
 #pragma once
 
-#include <span>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -15,6 +14,9 @@ struct Markup {
     std::string html;
 };
 Markup Plain(std::string_view text); // escaped
+
+// Escaped, with "_{...}" as an index: "f_{c,90,k}".
+Markup Indexed(std::string_view text);
 
 struct Cell {
     // A row is a list of these.
@@ -37,7 +39,7 @@ public:
     void Heading(std::string_view text);
 
     // A table with a caption for screen readers, a heading for each column, and rows whose first cell heads the row.
-    void Begin_table(std::string_view look, std::string_view caption, std::span<const std::string> headings);
+    void Begin_table(std::string_view look, std::string_view caption, const std::vector<Cell>& headings);
     void Row(const std::vector<Cell>& cells, std::string_view look = {});
     void End_table();
 

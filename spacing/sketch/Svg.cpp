@@ -68,8 +68,9 @@ std::string Svg_of(const Drawing& drawing, double width, double height, std::str
     const std::string h = Coordinate(height);
     std::string svg = "<svg" + Attribute("xmlns", "http://www.w3.org/2000/svg") + Attribute("role", "img") +
                       Attribute("width", w) + Attribute("height", h) + Attribute("viewBox", "0 0 " + w + " " + h) +
-                      Attribute("font-family", "'Liberation Sans', Arial, Helvetica, sans-serif") +
-                      Attribute("font-size", Coordinate(letter_pixels)) + Attribute("text-anchor", "middle") + ">\n";
+                      Attribute("style", std::string{svg_letters} + "; font-size: " + Coordinate(letter_pixels) +
+                                             "px; text-anchor: middle") +
+                      ">\n";
     svg += "<title>" + Escaped(title) + "</title>\n";
     for (const auto& shape : drawing.shapes) {
         svg += std::visit([](const auto& one) { return Element(one); }, shape);

@@ -12,6 +12,9 @@ namespace tarnvik {
 // are Liberation Sans, or what stands in for it; texts are texts. UTF-8, lines end with "\n".
 std::string Svg_of(const Drawing& drawing, double width, double height, std::string_view title);
 
+// The letters of a picture as CSS, without their size.
+inline constexpr std::string_view svg_letters = "font-family: 'Liberation Sans', Arial, Helvetica, sans-serif";
+
 // A text with the characters that XML and HTML give a meaning written as references, quotes among them.
 std::string Escaped(std::string_view text);
 

@@ -112,7 +112,9 @@ std::size_t CsvReader::Take_row(std::string_view text, bool last, CsvRow& row) {
     Taken taken{row};
     const auto wrong = [&](const char* what) {
         csv_fini(parser_.get(), nullptr, nullptr, nullptr); // the next line is a new row to it
-        row.cells.clear();
+        if (heading_.line != 0) {
+            row.cells.clear();
+        }
         row.error = what;
         return first_end;
     };
@@ -152,7 +154,6 @@ void CsvReader::Add(CsvRow row, std::vector<CsvRow>& rows) {
     if (row.error.empty() && row.cells.size() != heading_.cells.size()) {
         row.error = "expected " + std::to_string(heading_.cells.size()) + " cells as in the heading, got " +
                     std::to_string(row.cells.size());
-        row.cells.clear();
     }
     rows.push_back(std::move(row));
 }

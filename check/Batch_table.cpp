@@ -46,13 +46,6 @@ std::string Joined(const std::vector<std::string>& texts) {
     return joined;
 }
 
-void Append_row(std::string& text, const CsvStyle& style, const std::vector<std::string>& cells) {
-    CsvLine line{text, style};
-    for (const std::string& cell : cells) {
-        line.Cell(cell);
-    }
-}
-
 } // namespace
 
 bool Is_table(std::string_view lines) {
@@ -184,7 +177,7 @@ std::string BatchTable::Heading() const {
     }
     names.insert(names.end(), {"warnings", "error"});
     std::string text = style_.bom ? "\xEF\xBB\xBF" : "";
-    Append_row(text, style_, names);
+    Append_csv_row(text, style_, names);
     return text;
 }
 
@@ -222,7 +215,7 @@ void BatchTable::Append_result(std::string& text, const ConnectionState& s, cons
     }
     cells.push_back(Joined(warnings));
     cells.emplace_back();
-    Append_row(text, style_, cells);
+    Append_csv_row(text, style_, cells);
 }
 
 void BatchTable::Append_error(std::string& text, std::string_view id, std::string_view error) const {
@@ -236,7 +229,7 @@ void BatchTable::Append_error(std::string& text, std::string_view id, std::strin
     }
     cells.resize(cells.size() + unknown.size() + 1);
     cells.emplace_back(error);
-    Append_row(text, style_, cells);
+    Append_csv_row(text, style_, cells);
 }
 
 } // namespace tarnvik

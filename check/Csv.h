@@ -61,20 +61,7 @@ private:
     bool begun_{};
 };
 
-// A row that is written: cells, in quotes where they have to be, and the line end.
-class CsvLine {
-public:
-    CsvLine(std::string& text, const CsvStyle& style) : text_(text), style_(style) {}
-    CsvLine(const CsvLine&) = delete;
-    CsvLine& operator=(const CsvLine&) = delete;
-    ~CsvLine() { text_ += style_.crlf ? "\r\n" : "\n"; }
-
-    void Cell(std::string_view cell);
-
-private:
-    std::string& text_;
-    const CsvStyle& style_;
-    bool first_{true};
-};
+// Writes a row: cells, in quotes where they have to be, and the line end.
+void Append_csv_row(std::string& text, const CsvStyle& style, const std::vector<std::string>& cells);
 
 } // namespace tarnvik

@@ -35,12 +35,7 @@ Table Read_all(const std::string& text) {
 
 std::string Written(const Cells& cells, const CsvStyle& style) {
     std::string text;
-    {
-        CsvLine line{text, style};
-        for (const std::string& cell : cells) {
-            line.Cell(cell);
-        }
-    }
+    Append_csv_row(text, style, cells);
     return text;
 }
 

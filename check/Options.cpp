@@ -76,8 +76,8 @@ opened and checked.
   --save FILE        save the project after the check
   --report FILE.pdf  write the two-page report
   --pictures DIR     write every stored picture, as PNG and SVG, under its key
-  --help             this text
-  --version          the version
+  -h, --help         this text
+  -V, --version      the version; with --json as JSON
 
 A batch line is an object of inputs, or an array of such objects that are applied to
 the same connection one after the other; every line starts from a new project. Its
@@ -216,7 +216,9 @@ constexpr std::array option_rows{
     OptionRow{"--report",   "a file",           [](Options& o, const std::string& value) { o.report = value; }},
     OptionRow{"--pictures", "a folder",         [](Options& o, const std::string& value) { o.pictures = value; }},
     OptionRow{"--help",     nullptr,            [](Options& o, const std::string&) { o.help = true; }},
+    OptionRow{"-h",         nullptr,            [](Options& o, const std::string&) { o.help = true; }},
     OptionRow{"--version",  nullptr,            [](Options& o, const std::string&) { o.version = true; }},
+    OptionRow{"-V",         nullptr,            [](Options& o, const std::string&) { o.version = true; }},
 };
 // clang-format on
 

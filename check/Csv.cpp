@@ -44,6 +44,19 @@ void Take_end(int, void* taken) {
     static_cast<Taken*>(taken)->ended = true;
 }
 
+void Append_cell(std::string& text, const CsvStyle& style, const std::string& cell) {
+    const bool plain = cell.find_first_of("\"\r\n") == std::string::npos &&
+                       cell.find(style.separator) == std::string::npos && !cell.starts_with(' ') &&
+                       !cell.ends_with(' ');
+    if (plain) {
+        text += cell;
+        return;
+    }
+    const std::size_t begin = text.size();
+    text.resize(begin + 2 * cell.size() + 2);
+    text.resize(begin + csv_write2(text.data() + begin, text.size() - begin, cell.data(), cell.size(), '"'));
+}
+
 // The library skips a line of nothing but blanks before a row.
 bool Is_blank(std::string_view line) {
     return line.find_first_not_of(" \t\r\n") == std::string_view::npos;
@@ -112,7 +125,9 @@ std::size_t CsvReader::Take_row(std::string_view text, bool last, CsvRow& row) {
     Taken taken{row};
     const auto wrong = [&](const char* what) {
         csv_fini(parser_.get(), nullptr, nullptr, nullptr); // the next line is a new row to it
-        row.cells.clear();
+        if (heading_.line != 0) {
+            row.cells.clear();
+        }
         row.error = what;
         return first_end;
     };
@@ -152,26 +167,18 @@ void CsvReader::Add(CsvRow row, std::vector<CsvRow>& rows) {
     if (row.error.empty() && row.cells.size() != heading_.cells.size()) {
         row.error = "expected " + std::to_string(heading_.cells.size()) + " cells as in the heading, got " +
                     std::to_string(row.cells.size());
-        row.cells.clear();
     }
     rows.push_back(std::move(row));
 }
 
-void CsvLine::Cell(std::string_view cell) {
-    if (!first_) {
-        text_ += style_.separator;
+void Append_csv_row(std::string& text, const CsvStyle& style, const std::vector<std::string>& cells) {
+    for (std::size_t i = 0; i < cells.size(); ++i) {
+        if (i > 0) {
+            text += style.separator;
+        }
+        Append_cell(text, style, cells[i]);
     }
-    first_ = false;
-    const bool plain = cell.find_first_of("\"\r\n") == std::string_view::npos &&
-                       cell.find(style_.separator) == std::string_view::npos && !cell.starts_with(' ') &&
-                       !cell.ends_with(' ');
-    if (plain) {
-        text_ += cell;
-        return;
-    }
-    const std::size_t begin = text_.size();
-    text_.resize(begin + 2 * cell.size() + 2);
-    text_.resize(begin + csv_write2(text_.data() + begin, text_.size() - begin, cell.data(), cell.size(), '"'));
+    text += style.crlf ? "\r\n" : "\n";
 }
 
 } // namespace tarnvik

@@ -20,8 +20,8 @@ struct CsvStyle {
 
 struct CsvRow {
     long line{};                    // on which it begins, from 1
-    std::vector<std::string> cells; // as many as the heading has
-    std::string error;              // what is wrong with the row, in words; it has no cells then
+    std::vector<std::string> cells; // as many as the heading has, where the row is not damaged
+    std::string error;              // what is wrong with the row, in words
 };
 
 // Reads a table as its lines come. Its first row is the heading, whose line tells how the table is written. Rows
@@ -42,7 +42,8 @@ public:
     // The rows that are left at the end of the table.
     std::vector<CsvRow> Finish();
 
-    // Known once a row with a character has been read; the line of the heading is 0 before.
+    // Known once a row with a character has been read; the line of the heading is 0 before. A damaged one keeps the
+    // cells that could be read.
     [[nodiscard]] const CsvRow& Heading() const { return heading_; }
     [[nodiscard]] const CsvStyle& Style() const { return style_; }
 
@@ -60,20 +61,7 @@ private:
     bool begun_{};
 };
 
-// A row that is written: cells, in quotes where they have to be, and the line end.
-class CsvLine {
-public:
-    CsvLine(std::string& text, const CsvStyle& style) : text_(text), style_(style) {}
-    CsvLine(const CsvLine&) = delete;
-    CsvLine& operator=(const CsvLine&) = delete;
-    ~CsvLine() { text_ += style_.crlf ? "\r\n" : "\n"; }
-
-    void Cell(std::string_view cell);
-
-private:
-    std::string& text_;
-    const CsvStyle& style_;
-    bool first_{true};
-};
+// Writes a row: cells, in quotes where they have to be, and the line end.
+void Append_csv_row(std::string& text, const CsvStyle& style, const std::vector<std::string>& cells);
 
 } // namespace tarnvik

@@ -60,7 +60,8 @@ opened and checked.
                      checks the verdict
   --strict           fail also where distances do not fit or a check was not made;
                      refuse inputs outside their ranges and impossible pairs
-  --batch            read inputs as JSON Lines from standard input, one result a line
+  --batch            read inputs from standard input, as JSON Lines or as a table (CSV),
+                     and print results of the same kind, one a line
   --jobs N           check the lines of a batch on N threads; results stay in order
   --sweep NAME=FROM:TO:STEP
                      verdicts over a range of an input, as CSV, or JSON with --json;
@@ -77,12 +78,14 @@ opened and checked.
   --sheet FILE.html  write the check sheet: one page for a browser, two of A4 printed
   --verify FILE.html calculate a check sheet again and hold it against that
   --pictures DIR     write every stored picture, as PNG and SVG, under its key
-  --help             this text
-  --version          the version
+  -h, --help         this text
+  -V, --version      the version; with --json as JSON
 
 A batch line is an object of inputs, or an array of such objects that are applied to
 the same connection one after the other; every line starts from a new project. Its
-keys are inputs, or the inputs by name without their dashes.
+keys are inputs, or the inputs by name without their dashes. In a table these are the
+columns; "Id" names a row. Between its cells stands ";" or ",", decimals are as in the
+input, and a column whose name begins with "#" is left out.
 
 Inputs (NAME): flags take true or false, the others a number or a text.
 )";
@@ -217,7 +220,9 @@ constexpr std::array option_rows{
     OptionRow{"--verify",   "a file",           [](Options& o, const std::string& value) { o.verify = value; }},
     OptionRow{"--pictures", "a folder",         [](Options& o, const std::string& value) { o.pictures = value; }},
     OptionRow{"--help",     nullptr,            [](Options& o, const std::string&) { o.help = true; }},
+    OptionRow{"-h",         nullptr,            [](Options& o, const std::string&) { o.help = true; }},
     OptionRow{"--version",  nullptr,            [](Options& o, const std::string&) { o.version = true; }},
+    OptionRow{"-V",         nullptr,            [](Options& o, const std::string&) { o.version = true; }},
 };
 // clang-format on
 

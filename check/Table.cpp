@@ -50,14 +50,9 @@ std::string As_json(const Table& table) {
 }
 
 std::string Csv_line(const TableRow& row, const CsvStyle& style) {
-    std::string text;
-    {
-        CsvLine line{text, style};
-        for (const std::string& cell : row) {
-            line.Cell(cell);
-        }
-    }
-    return text;
+    std::string line;
+    Append_csv_row(line, style, row);
+    return line;
 }
 
 } // namespace tarnvik

@@ -113,8 +113,13 @@ TEST(Options, help_and_version_go_to_standard_output) {
         EXPECT_EQ(run.err, "");
         EXPECT_EQ(run.out.substr(0, 20), "Usage: tarnvik-check");
     }
-    EXPECT_EQ(Tool({"--version"}).out, "tarnvik-check 1.2.0\n");
-    EXPECT_EQ(Tool({"--version"}).status, exit_holds);
+    EXPECT_EQ(Tool({"-h"}).out, Help_text());
+    for (const char* option : {"--version", "-V"}) {
+        EXPECT_EQ(Tool({option}).out, "tarnvik-check 1.2.0\n");
+        EXPECT_EQ(Tool({option}).status, exit_holds);
+    }
+    EXPECT_EQ(Tool({"--version", "--json"}).out,
+              "{\"name\":\"tarnvik-check\",\"version\":\"1.2.0\",\"standard\":\"EN 1995-1-1:2004+A1:2008\"}\n");
 }
 
 TEST(Options, the_inputs_are_those_that_a_user_can_choose) {

@@ -9,6 +9,7 @@
 #include "calc/StateFields.h"
 #include "check/Find.h"
 #include "check/Lists.h"
+#include "check/Loads.h"
 #include "check/Nearest.h"
 
 namespace tarnvik {
@@ -66,13 +67,17 @@ opened and checked.
   --sweep NAME=FROM:TO:STEP
                      verdicts over a range of an input, as CSV, or JSON with --json;
                      two of them give a grid
-  --plot FILE.svg    draw the utilisations over the input of --sweep
+  --plot FILE.svg    draw the utilisations over the input of --sweep, or what holds in
+                     the grid
   --find             every bolt, number, layout and spacing of the bolts that holds and
                      fits, fewest bolts first; as a table, CSV or JSON
   --with-connectors  look among connectors too
   --fix NAME=VALUE,...
                      keep some of bolt,bolts,connector,layout,spacing
-  --csv              CSV instead of the table of --find
+  --loads FILE.csv   check the joint under load cases with the columns name, force (kN,
+                     above 0 compression) and load (load-duration class), and tell
+                     which governs; as a summary, CSV or JSON
+  --csv              CSV instead of the table of --find or --loads
   --save FILE        save the project after the check
   --report FILE.pdf  write the two-page report
   --sheet FILE.html  write the check sheet: one page for a browser, two of A4 printed
@@ -213,6 +218,7 @@ constexpr std::array option_rows{
     OptionRow{"--find",     nullptr,            [](Options& o, const std::string&) { o.find = true; }},
     OptionRow{"--with-connectors", nullptr,     [](Options& o, const std::string&) { o.with_connectors = true; }},
     OptionRow{"--fix",      "NAME=VALUE,...",   Set_fixed},
+    OptionRow{"--loads",    "a file",           [](Options& o, const std::string& value) { o.loads = value; }},
     OptionRow{"--csv",      nullptr,            [](Options& o, const std::string&) { o.csv = true; }},
     OptionRow{"--save",     "a file",           [](Options& o, const std::string& value) { o.save = value; }},
     OptionRow{"--report",   "a file",           [](Options& o, const std::string& value) { o.report = value; }},
@@ -300,25 +306,33 @@ void Check_find(const Options& options) {
         return;
     }
     Check_alone(options, "--find");
-    if (!options.sweep.empty()) {
-        throw UsageError{"--find, --sweep: expected one of them, got both"};
-    }
     Refuse_searched_inputs(options);
+}
+
+void Check_loads_option(const Options& options) {
+    if (options.loads) {
+        Check_alone(options, "--loads");
+        Refuse_loads_inputs(options);
+    }
+    const int asked = (options.find ? 1 : 0) + (options.loads ? 1 : 0) + (options.sweep.empty() ? 0 : 1);
+    if (asked > 1) {
+        throw UsageError{"--find, --loads, --sweep: expected one of them"};
+    }
 }
 
 void Check_csv(const Options& options) {
     if (options.csv && options.json) {
         throw UsageError{"--csv, --json: expected one of them, got both"};
     }
-    if (options.csv && !options.find && options.sweep.empty()) {
-        throw UsageError{"--csv: expected --find or --sweep beside it"};
+    if (options.csv && !options.find && !options.loads && options.sweep.empty()) {
+        throw UsageError{"--csv: expected --find, --loads or --sweep beside it"};
     }
 }
 
 void Check_sweep(const Options& options) {
     constexpr std::size_t most_points = 100000;
-    if (options.plot && options.sweep.size() != 1) {
-        throw UsageError{"--plot: expected one --sweep beside it"};
+    if (options.plot && options.sweep.empty()) {
+        throw UsageError{"--plot: expected --sweep beside it"};
     }
     if (options.sweep.empty()) {
         return;
@@ -342,6 +356,7 @@ void Check_combination(const Options& options) {
     }
     Check_sweep(options);
     Check_find(options);
+    Check_loads_option(options);
     Check_csv(options);
     const bool several = options.batch || options.projects.size() > 1;
     if (options.save && several) {

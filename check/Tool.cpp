@@ -13,6 +13,7 @@
 #include "check/Find.h"
 #include "check/Inputs.h"
 #include "check/Lists.h"
+#include "check/Loads.h"
 #include "check/Plot.h"
 #include "check/Recording.h"
 #include "check/Sheets.h"
@@ -114,6 +115,9 @@ int Tool::One(const std::string& project) {
     if (options_.find) {
         return Find(project);
     }
+    if (options_.loads) {
+        return Loads(project);
+    }
     if (!Acceptable(project)) {
         return exit_usage;
     }
@@ -174,6 +178,24 @@ int Tool::Find(const std::string& project) {
 }
 
 // ---------------------------------------------------------------------------------------------------------------------
+// Load cases
+
+int Tool::Loads(const std::string& project) {
+    const LoadTable table = Read_loads(*options_.loads);
+    s_->Lastvar = table.loads.front().Lastvar; // that of the joint counts for nothing
+    if (!Acceptable(project)) {
+        return exit_usage;
+    }
+    const LoadsResult result = Check_loads(*s_, table.loads);
+    if (options_.json) {
+        out_ << Loads_json(result, remarks_.warnings);
+    } else {
+        out_ << (options_.csv ? Loads_csv(result, table) : Loads_summary(result));
+    }
+    return Loads_status(result, options_.strict);
+}
+
+// ---------------------------------------------------------------------------------------------------------------------
 // A sweep
 
 int Tool::Sweep() {
@@ -231,7 +253,9 @@ SweepPoint Tool::Point(const std::vector<double>& values, const NamedValues& inp
 int Tool::Write_plot(const std::vector<SweepPoint>& points) {
     const std::string title = s_->Prosjekt + ", " + s_->Id;
     try {
-        Safe_write(*options_.plot, Plot_sweep(options_.sweep.front(), points, title), {OldTail::drop}, "Write_plot");
+        const std::string svg = options_.sweep.size() > 1 ? Plot_grid(options_.sweep, points, title)
+                                                          : Plot_sweep(options_.sweep.front(), points, title);
+        Safe_write(*options_.plot, svg, {OldTail::drop}, "Write_plot");
     } catch (const RuntimeFault& fault) {
         err_ << "tarnvik-check: " << *options_.plot << ": cannot be written: " << fault.description << "\n";
         return exit_usage;

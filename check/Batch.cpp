@@ -6,12 +6,15 @@
 #include <future>
 #include <istream>
 #include <mutex>
+#include <optional>
 #include <ostream>
 #include <string>
 #include <thread>
 #include <utility>
 #include <vector>
 
+#include "check/Batch_table.h"
+#include "check/Csv.h"
 #include "check/Line_blocks.h"
 #include "check/Line_check.h"
 
@@ -22,10 +25,75 @@ namespace {
 // Blocks of lines that wait in order, for each thread.
 constexpr std::size_t blocks_ahead = 4;
 
+// Lines, or rows of a table.
 struct Block {
     std::string lines;
     long number{1}; // of the first line
+    std::vector<CsvRow> rows;
 };
+
+// The input in blocks. Its begin tells whether it is a table.
+class BatchInput {
+public:
+    BatchInput(std::istream& in, const Options& options) : lines_(in) {
+        more_ = lines_.Next(text_);
+        if (!Is_table(text_)) {
+            return;
+        }
+        rows_ = reader_.Read(text_);
+        while (rows_.empty() && more_) { // its decimals show in the first rows
+            Read_rows();
+        }
+        table_.emplace(reader_.Heading(), reader_.Style(), rows_, options);
+    }
+
+    bool Next(Block& block) { return table_ ? Next_rows(block) : Next_lines(block); }
+
+    // Next would wait, for all that is known.
+    [[nodiscard]] bool Would_wait() const { return rows_.empty() && lines_.Would_wait(); }
+
+    [[nodiscard]] const BatchTable* Table() const { return table_ ? &*table_ : nullptr; }
+
+private:
+    void Read_rows() {
+        more_ = lines_.Next(text_);
+        rows_ = more_ ? reader_.Read(text_) : reader_.Finish();
+    }
+
+    bool Next_rows(Block& block) {
+        while (rows_.empty() && more_) {
+            Read_rows();
+        }
+        block.rows = std::exchange(rows_, {});
+        return !block.rows.empty();
+    }
+
+    bool Next_lines(Block& block) {
+        block.number = number_;
+        block.lines = std::exchange(text_, {});
+        if (block.lines.empty() && !(more_ && (more_ = lines_.Next(block.lines)))) {
+            return false;
+        }
+        number_ += std::count(block.lines.begin(), block.lines.end(), '\n');
+        return true;
+    }
+
+    LineBlocks lines_;
+    std::string text_; // of a block
+    long number_{1};   // of the next line
+    bool more_;        // the end has not been met
+    CsvReader reader_;
+    std::vector<CsvRow> rows_;
+    std::optional<BatchTable> table_;
+};
+
+void Check_block(LineCheck& check, const Block& block, const BatchTable* table, Answers& answers) {
+    if (table != nullptr) {
+        check.Check(block.rows, *table, answers);
+    } else {
+        check.Check(block.lines, block.number, answers);
+    }
+}
 
 // The threads that check lines, each on a session of its own.
 class Crew {
@@ -49,10 +117,10 @@ public:
         }
     }
 
-    std::future<Answers> Hand_in(Block block) {
-        Task task{[block = std::move(block)](LineCheck& check) {
+    std::future<Answers> Hand_in(Block block, const BatchTable* table) {
+        Task task{[block = std::move(block), table](LineCheck& check) {
             Answers answers;
-            check.Check(block.lines, block.number, answers);
+            Check_block(check, block, table, answers);
             return answers;
         }};
         std::future<Answers> answers = task.get_future();
@@ -103,16 +171,15 @@ void Write(const Answers& answers, std::ostream& out, std::ostream& err) {
     write_to(answers.results.size());
 }
 
-int Run_alone(const Options& options, const ConnectionState& fresh, std::istream& in, std::ostream& out,
+int Run_alone(const Options& options, const ConnectionState& fresh, BatchInput& input, std::ostream& out,
               std::ostream& err) {
     LineCheck check{options, fresh};
-    LineBlocks input{in};
     Answers answers;
     Block block;
-    while (out && input.Next(block.lines)) {
+    while (out && input.Next(block)) {
         answers.results.clear();
         answers.complaints.clear();
-        block.number += check.Check(block.lines, block.number, answers);
+        Check_block(check, block, input.Table(), answers);
         Write(answers, out, err);
         if (input.Would_wait()) {
             out.flush();
@@ -121,10 +188,9 @@ int Run_alone(const Options& options, const ConnectionState& fresh, std::istream
     return answers.status;
 }
 
-int Run_threads(const Options& options, const ConnectionState& fresh, std::istream& in, std::ostream& out,
+int Run_threads(const Options& options, const ConnectionState& fresh, BatchInput& input, std::ostream& out,
                 std::ostream& err) {
     Crew crew{options, fresh};
-    LineBlocks input{in};
     std::deque<std::future<Answers>> ahead;
     int status = exit_holds;
     const auto write_first = [&] {
@@ -135,11 +201,8 @@ int Run_threads(const Options& options, const ConnectionState& fresh, std::istre
     };
     const std::size_t most = blocks_ahead * static_cast<std::size_t>(options.jobs);
     Block block;
-    while (out && input.Next(block.lines)) {
-        const long lines = std::count(block.lines.begin(), block.lines.end(), '\n');
-        const long number = block.number;
-        ahead.push_back(crew.Hand_in(std::move(block)));
-        block = {{}, number + lines};
+    while (out && input.Next(block)) {
+        ahead.push_back(crew.Hand_in(std::exchange(block, {}), input.Table()));
         while (!ahead.empty() && (ahead.size() == most || input.Would_wait())) {
             write_first();
         }
@@ -160,7 +223,11 @@ int Run_batch(const Options& options, const ConnectionState& fresh, std::istream
     // A row of the printed report may show what an earlier print left in it: such lines have to come one after another.
     const bool report = std::find(options.with.begin(), options.with.end(), "report") != options.with.end();
     const auto run = options.jobs == 1 || report ? Run_alone : Run_threads;
-    const int status = run(options, fresh, in, out, err);
+    BatchInput input{in, options};
+    if (input.Table() != nullptr) {
+        out << input.Table()->Heading();
+    }
+    const int status = run(options, fresh, input, out, err);
     if (in.bad()) {
         throw UsageError{"standard input cannot be read"};
     }

@@ -17,6 +17,10 @@ namespace tarnvik {
 
 namespace {
 
+constexpr const char* version_json =
+    R"({"name":"tarnvik-check","version":")" TARNVIK_VERSION R"(","standard":"EN 1995-1-1:2004+A1:2008"})"
+    "\n";
+
 [[noreturn]] void Refuse_painting(const std::string& option) {
     throw UsageError{option + " needs " + paint_program_name + " beside the program; the build with the window has it"};
 }
@@ -29,7 +33,7 @@ int Carry_out(Options options, const std::filesystem::path& program_folder, std:
         return exit_holds;
     }
     if (options.version) {
-        out << "tarnvik-check " << TARNVIK_VERSION << "\n";
+        out << (options.json ? version_json : "tarnvik-check " TARNVIK_VERSION "\n");
         return exit_holds;
     }
     if (options.pictures) {

@@ -4,9 +4,6 @@
 #include <cstddef>
 #include <string_view>
 
-#include "calc/RuntimeFault.h"
-#include "calc/Screen.h"
-#include "calc/Splitting.h"
 #include "calc/Text.h"
 #include "check/JsonList.h"
 #include "check/Status.h"
@@ -16,27 +13,20 @@ namespace tarnvik {
 namespace {
 
 // clang-format off
-// The checks by their names in the JSON and the summary, with the clauses of EN 1995-1-1. Row = Check.
+// The checks by their names in the JSON and the summary. Row = Check.
 struct CheckRow {
     std::string_view name;
-    std::string_view clause;
     bool length; // mm; otherwise a ratio
 };
 constexpr std::array<CheckRow, check_count> check_rows{{
-    {"bolts",            "8.2.2, 8.5.1",             false},
-    {"splitting",        "8.1.4",                    false},
-    {"fits_a",           "table 8.4",                true},
-    {"fits_b",           "table 8.4",                true},
-    {"connectors_fit_a", "8.10, tables 8.7 to 8.9",  true},
-    {"connectors_fit_b", "8.10, tables 8.7 to 8.9",  true},
+    {"bolts",            false},
+    {"splitting",        false},
+    {"fits_a",           true},
+    {"fits_b",           true},
+    {"connectors_fit_a", true},
+    {"connectors_fit_b", true},
 }};
 // clang-format on
-
-// The utilisation is that of bolts and connectors together.
-std::string_view Clause(const Verdict& verdict, std::size_t i) {
-    const bool both = i == static_cast<std::size_t>(Check::utilisation) && verdict[Check::connectors_fit_1].applies;
-    return both ? "8.2.2, 8.5.1, 8.10" : check_rows[i].clause;
-}
 
 bool Is_splitting(std::size_t i) {
     return i == static_cast<std::size_t>(Check::splitting);
@@ -56,7 +46,7 @@ void Append_check(std::string& json, const Judgement& judgement, std::size_t i) 
     } else {
         object.Null("holds");
     }
-    object.Member("clause", Clause(judgement.verdict, i));
+    object.Member("clause", Check_clause(judgement.verdict, static_cast<Check>(i)));
     if (Is_splitting(i)) {
         object.Member("he_typed", judgement.he_typed);
         object.Member("current", check.checked);
@@ -96,67 +86,6 @@ void Add_line(std::string& text, std::string_view name, std::string_view value, 
 
 } // namespace
 
-std::optional<bool> Judgement::Holds() const {
-    for (const CheckResult& check : verdict.checks) {
-        if (not_current.empty() && check.Fails()) {
-            return false;
-        }
-    }
-    return not_current.empty() && verdict.Holds() ? std::optional{true} : std::nullopt;
-}
-
-void Judge::Begin() {
-    results_.Forget_splitting();
-    typed_.reset();
-}
-
-void Judge::After_pass(const ConnectionValues& s, const PassResult& result, bool typed) {
-    if (result.end == PassEnd::normal && s.Man_he_on && typed) {
-        Check_typed_he(s);
-    }
-}
-
-// As leaving its box does: a he outside the member is refused there, and one as large as the member's height leaves
-// the check undone, since it divides by zero.
-void Judge::Check_typed_he(const ConnectionValues& s) {
-    Begin();
-    float h = 0.0F;
-    float b = 0.0F;
-    Get_splitting_member(s, h, b);
-    if (!(s.man_he > 0.0F && s.man_he <= h)) {
-        return;
-    }
-    ConnectionValues checked = s;
-    checked.he = s.man_he;
-    try {
-        Tverr_brudd(checked, h, checked.he, b, ScreenWriter{nullptr});
-    } catch (const RuntimeFault&) {
-        return;
-    }
-    typed_ = {checked.he, checked.F90_Rd, checked.P_sin, checked.Tverr_kontroll};
-    results_.Note_splitting(checked);
-}
-
-Judgement Judge::Judge_results(const ConnectionValues& s) const {
-    Judgement judgement;
-    judgement.not_current = results_.Not_current(s, Is_english(s));
-    judgement.governing = Governing_mode(s);
-    judgement.he_typed = s.Man_he_on;
-    if (!s.Man_he_on) {
-        judgement.verdict = Verdict_of(s, results_.Splitting_current(s));
-        return judgement;
-    }
-    ConnectionValues seen = s;
-    if (typed_) {
-        seen.he = typed_->he;
-        seen.F90_Rd = typed_->F90_Rd;
-        seen.P_sin = typed_->P_sin;
-        seen.Tverr_kontroll = typed_->Tverr_kontroll;
-    }
-    judgement.verdict = Verdict_of(seen, typed_ && results_.Splitting_current(seen));
-    return judgement;
-}
-
 std::string_view Check_name(std::size_t i) {
     return check_rows[i].name;
 }
@@ -185,6 +114,32 @@ void Append_checks(std::string& json, const Judgement& judgement, bool english) 
     mode.Member("value", judgement.governing.value);
 }
 
+void Append_check_headings(TableRow& row) {
+    for (std::size_t i = 0; i < check_count; ++i) {
+        row.emplace_back(i == static_cast<std::size_t>(Check::utilisation) ? "utilisation" : check_rows[i].name);
+        if (check_rows[i].length) {
+            row.push_back(row.back() + "_limit");
+        }
+    }
+    row.insert(row.end(), {"governing", "holds", "text"});
+}
+
+void Append_check_cells(TableRow& row, const Judgement& judgement) {
+    const bool current = judgement.not_current.empty();
+    for (std::size_t i = 0; i < check_count; ++i) {
+        const CheckResult& check = judgement.verdict.checks[i];
+        const bool known = current && check.applies && check.checked;
+        row.emplace_back(known ? Shortest(check.value).View() : std::string_view{});
+        if (check_rows[i].length) {
+            row.emplace_back(known ? Shortest(check.limit).View() : std::string_view{});
+        }
+    }
+    const std::optional<bool> holds = judgement.Holds();
+    row.push_back(current ? std::string(1, judgement.governing.mode) : std::string{});
+    row.emplace_back(holds ? *holds ? "true" : "false" : "");
+    row.push_back(Judgement_text(judgement, true));
+}
+
 std::string Checks_summary(const Judgement& judgement) {
     if (!judgement.not_current.empty()) {
         return {};
@@ -201,7 +156,8 @@ std::string Checks_summary(const Judgement& judgement) {
         }
         const bool typed = Is_splitting(i) && judgement.he_typed;
         Add_line(text, check_rows[i].name, value,
-                 std::string{Clause(judgement.verdict, i)} + (typed ? ", he given by hand" : ""));
+                 std::string{Check_clause(judgement.verdict, static_cast<Check>(i))} +
+                     (typed ? ", he given by hand" : ""));
     }
     const GoverningMode& mode = judgement.governing;
     Add_line(text, "governing mode", std::string{mode.mode} + ", (" + std::string{mode.equation} + ")",

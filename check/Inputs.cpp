@@ -108,14 +108,6 @@ std::vector<std::string_view> Names() {
     return names;
 }
 
-const StateField& Input(const std::string& name) {
-    const StateField* field = Find_state_field(name);
-    if (field == nullptr || !field->is_input) {
-        throw UsageError{Quoted(name) + " is no input; see tarnvik-check --help" + Nearest_names(name, Names())};
-    }
-    return *field;
-}
-
 void After_write(ConnectionState& s, std::string_view name) {
     if (name == "Bulldog_index") {
         Get_dc(s);
@@ -151,6 +143,14 @@ void Refuse_key_twice(std::string_view line) {
 
 } // namespace
 
+const StateField& Find_input(const std::string& name) {
+    const StateField* field = Find_state_field(name);
+    if (field == nullptr || !field->is_input) {
+        throw UsageError{Quoted(name) + " is no input; see tarnvik-check --help" + Nearest_names(name, Names())};
+    }
+    return *field;
+}
+
 void Set_input(ConnectionState& s, const std::string& name, const std::string& value) {
     std::visit(
         Overloaded{
@@ -162,7 +162,7 @@ void Set_input(ConnectionState& s, const std::string& name, const std::string& v
             [&](std::string_view ConnectionState::*) {}, // labels are results
             [&](auto member) { s.*member = std::string_view{value}; },
         },
-        Input(name).member);
+        Find_input(name).member);
     After_write(s, name);
 }
 
@@ -219,7 +219,7 @@ void Set_inputs(ConnectionState& s, const Json& inputs) {
                     s.*member = std::string_view{value.get_ref<const std::string&>()};
                 },
             },
-            Input(name).member);
+            Find_input(name).member);
         After_write(s, name);
     }
     Set_named_inputs(s, named);

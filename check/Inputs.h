@@ -16,6 +16,9 @@ namespace tarnvik {
 // Errors: throws UsageError that names the input and what was expected.
 void Set_input(ConnectionState& s, const std::string& name, const std::string& value);
 
+// The input of that name. Errors: throws UsageError where there is none, with the nearest names.
+const StateField& Find_input(const std::string& name);
+
 // A batch line. A key that stands in an object twice is refused: nobody knows which was meant.
 // Errors: throws UsageError, in words of the tool's own.
 nlohmann::ordered_json Parse_line(std::string_view line);

@@ -282,6 +282,14 @@ void Append_value(std::string& json, const std::string& value) {
     Append_json(json, value);
 }
 
+void Append_value(std::string& json, const std::vector<std::string>& values) {
+    JsonList list{json, '[', ']'};
+    for (const std::string& value : values) {
+        list.Next();
+        Append_json(json, value);
+    }
+}
+
 void Append_json(std::string& json, std::string_view text) {
     const bool plain = std::all_of(text.begin(), text.end(), [](char c) {
         const auto byte = static_cast<unsigned char>(c);
@@ -322,12 +330,7 @@ void Append_result(std::string& json, const Options& options, const std::string&
         }
     }
     if (!remarks.warnings.empty()) {
-        object.Name("warnings");
-        List warnings{json, '[', ']'};
-        for (const std::string& warning : remarks.warnings) {
-            warnings.Next();
-            Append_json(json, warning);
-        }
+        object.Member("warnings", remarks.warnings);
     }
     object.Name("state");
     Append_state(json, options, s);

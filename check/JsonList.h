@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "calc/Text.h"
 
@@ -20,6 +21,7 @@ void Append_value(std::string& json, std::uint32_t value);
 void Append_value(std::string& json, bool value);
 void Append_value(std::string& json, std::string_view value);
 void Append_value(std::string& json, const std::string& value);
+void Append_value(std::string& json, const std::vector<std::string>& values);
 
 template <std::size_t N> void Append_value(std::string& json, const FixedText<N>& value) {
     Append_json(json, value.View());

@@ -5,6 +5,7 @@
 #include <nlohmann/json.hpp>
 
 #include "check/Inputs.h"
+#include "check/Nearest.h"
 #include "check/Recording.h"
 #include "check/Validation.h"
 
@@ -12,13 +13,24 @@ namespace tarnvik {
 
 using Json = nlohmann::ordered_json;
 
+namespace {
+
+void Complain(Answers& answers, long line, std::string_view id, const std::string& text) {
+    std::string complaint = "tarnvik-check: line " + std::to_string(line);
+    if (!id.empty()) {
+        complaint += " (" + Cut(id) + ")";
+    }
+    answers.complaints.push_back({answers.results.size(), complaint + ": " + text + "\n"});
+}
+
+} // namespace
+
 LineCheck::LineCheck(const Options& options, const ConnectionState& fresh)
     : options_(options), fresh_(fresh), s_(std::make_unique<ConnectionState>(fresh)),
       record_(Recording(session_, clock_)), judging_(options.checks || options.strict) {}
 
-long LineCheck::Check(std::string_view lines, long number, Answers& answers) {
-    const long first = number;
-    for (std::size_t begin = 0; begin < lines.size(); ++number) {
+void LineCheck::Check(std::string_view lines, long number, Answers& answers) {
+    for (std::size_t begin = 0; begin < lines.size(); ++number, ++answers.count) {
         const std::size_t end = std::min(lines.find('\n', begin), lines.size());
         const std::string_view line = lines.substr(begin, end - begin);
         begin = end + 1;
@@ -27,16 +39,26 @@ long LineCheck::Check(std::string_view lines, long number, Answers& answers) {
             answers.results += '\n';
         }
     }
-    return number - first;
+}
+
+void LineCheck::Check(const std::vector<CsvRow>& rows, const BatchTable& table, Answers& answers) {
+    for (const CsvRow& row : rows) {
+        answers.status = Worse(answers.status, Row(row, table, answers));
+        ++answers.count;
+    }
 }
 
 int LineCheck::Line(std::string_view line, long number, Answers& answers) {
     try {
         return Answer(line, answers.results);
     } catch (const UsageError& error) {
-        answers.complaints.push_back(
-            {answers.results.size(), "tarnvik-check: line " + std::to_string(number) + ": " + error.text + "\n"});
-        answers.results += "{\"line\":" + std::to_string(number) + ",\"error\":";
+        Complain(answers, number, id_, error.text);
+        answers.results += "{\"line\":" + std::to_string(number);
+        if (!id_.empty()) {
+            answers.results += ",\"Id\":";
+            Append_json(answers.results, id_);
+        }
+        answers.results += ",\"error\":";
         Append_json(answers.results, error.text);
         answers.results += '}';
         return exit_usage;
@@ -53,6 +75,29 @@ int LineCheck::Answer(std::string_view line, std::string& results) {
         remarks_.checks = judge_.Judge_results(*s_);
     }
     Append_result(results, options_, {}, *s_, session_.Shown(), result_, messages_, record_, remarks_);
+    return Status_of_result();
+}
+
+int LineCheck::Row(const CsvRow& row, const BatchTable& table, Answers& answers) {
+    try {
+        return Answer(row, table, answers.results);
+    } catch (const UsageError& error) {
+        Complain(answers, row.line, table.Id(row), error.text);
+        table.Append_error(answers.results, table.Id(row), error.text);
+        return exit_usage;
+    }
+}
+
+// Errors: throws UsageError.
+int LineCheck::Answer(const CsvRow& row, const BatchTable& table, std::string& results) {
+    Renew();
+    table.Set_inputs(*s_, row);
+    Calculate(true);
+    table.Append_result(results, *s_, judge_.Judge_results(*s_), remarks_.warnings);
+    return Status_of_result();
+}
+
+int LineCheck::Status_of_result() const {
     const int status = Status(*s_, result_);
     return options_.strict ? Strict_status(status, judge_.Judge_results(*s_)) : status;
 }
@@ -87,6 +132,9 @@ void LineCheck::Calculate_line(const Json& inputs) {
 }
 
 void LineCheck::Calculate_object(const Json& inputs) {
+    if (inputs.is_object() && inputs.contains("Id") && inputs["Id"].is_string()) {
+        id_ = inputs["Id"].get<std::string>();
+    }
     Set_inputs(*s_, inputs);
     Calculate(steps_ == 0 || inputs.contains("man_he") || inputs.contains("Man_he_on"));
 }
@@ -109,6 +157,7 @@ void LineCheck::Calculate(bool typed) {
 void LineCheck::Renew() {
     static_cast<ConnectionValues&>(*s_) = fresh_;
     steps_ = 0;
+    id_.clear();
     judge_.Begin();
     if (!options_.with.empty()) {
         session_.Shown() = {};

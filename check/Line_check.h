@@ -1,4 +1,4 @@
-// The checks of batch lines on a session of their own.
+// The checks of batch lines, or of rows of a table, on a session of their own.
 #pragma once
 
 #include <cstddef>
@@ -11,7 +11,9 @@
 
 #include "calc/GlobalParameter.h"
 #include "calc/pass/Main_beregn.h"
+#include "check/Batch_table.h"
 #include "check/Checks.h"
+#include "check/Csv.h"
 #include "check/Json.h"
 #include "check/Line_reader.h"
 #include "check/MessageLog.h"
@@ -22,9 +24,9 @@
 
 namespace tarnvik {
 
-// What several lines led to.
+// What several lines or rows led to.
 struct Answers {
-    // What is wrong with a line, to be told before the results from `at` on.
+    // What is wrong with one, to be told before the results from `at` on.
     struct Complaint {
         std::size_t at;
         std::string text; // with its line end
@@ -33,6 +35,7 @@ struct Answers {
     std::string results; // a line each
     std::vector<Complaint> complaints;
     int status{exit_holds}; // the worst
+    long count{};           // how many there were, blank ones among them
 };
 
 class LineCheck : private SessionView {
@@ -40,14 +43,20 @@ public:
     // Every line starts from `fresh`, a state that has not been calculated yet. The options have to outlive this.
     LineCheck(const Options& options, const ConnectionState& fresh);
 
-    // Checks the lines, the first of them with the number `number`, and adds to `answers`. Gives how many there were.
-    long Check(std::string_view lines, long number, Answers& answers);
+    // Checks the lines, the first of them with the number `number`, and adds to `answers`.
+    void Check(std::string_view lines, long number, Answers& answers);
+
+    // The same of rows of the table.
+    void Check(const std::vector<CsvRow>& rows, const BatchTable& table, Answers& answers);
 
 private:
     MessageBox& Box() override { return messages_; }
 
     int Line(std::string_view line, long number, Answers& answers);
     int Answer(std::string_view line, std::string& results);
+    int Row(const CsvRow& row, const BatchTable& table, Answers& answers);
+    int Answer(const CsvRow& row, const BatchTable& table, std::string& results);
+    [[nodiscard]] int Status_of_result() const;
     bool Read_fast(std::string_view line);
     void Calculate_line(const nlohmann::ordered_json& inputs);
     void Calculate_object(const nlohmann::ordered_json& inputs);
@@ -67,6 +76,7 @@ private:
     Judge judge_{session_.Results()};
     const bool judging_; // the verdict is asked for
     int steps_{};        // passes of the line
+    std::string id_;     // what the line is called by its own inputs, as far as the general reader has come
 };
 
 } // namespace tarnvik

@@ -6,6 +6,7 @@
 
 #include "calc/StateFields.h"
 #include "check/Inputs.h"
+#include "check/Named_inputs.h"
 
 namespace tarnvik {
 
@@ -29,16 +30,39 @@ bool Take(ConnectionState& s, const StateField& field, const element& value) {
     }
 }
 
+bool Take_named(NamedValues& named, std::string_view name, const element& value) {
+    if (!Is_named_input(name)) {
+        return false;
+    }
+    switch (value.type()) {
+    case element_type::INT64:
+    case element_type::UINT64:
+    case element_type::DOUBLE:
+        named.emplace_back(name, simdjson::to_string(value));
+        return true;
+    case element_type::STRING:
+        named.emplace_back(name, value.get_string().value_unsafe());
+        return true;
+    default:
+        return false;
+    }
+}
+
+// Errors: throws UsageError for inputs by name that cannot be.
 bool Take_object(ConnectionState& s, const element& value) {
     simdjson::dom::object object;
     if (value.get_object().get(object) != simdjson::SUCCESS) {
         return false;
     }
     std::bitset<256> taken; // by row of State_fields
+    NamedValues named;
     for (const auto [name, input] : object) {
         const StateField* field = Find_state_field(name);
         if (field == nullptr) {
-            return false;
+            if (!Take_named(named, name, input)) {
+                return false;
+            }
+            continue;
         }
         const auto row = static_cast<std::size_t>(field - State_fields().data());
         if (taken[row] || !Take(s, *field, input)) {
@@ -46,6 +70,7 @@ bool Take_object(ConnectionState& s, const element& value) {
         }
         taken.set(row);
     }
+    Set_named_inputs(s, named);
     return true;
 }
 

@@ -24,7 +24,7 @@ public:
 
     // Writes the inputs of an object, or of each object of an array, to the state, and calls `calculate` after each
     // object. False where the line is not wholly inputs with values that they take, none of them twice in an object:
-    // some may have been written and calculated then.
+    // some may have been written and calculated then. Errors: throws UsageError for inputs by name that cannot be.
     bool Read(std::string_view line, ConnectionState& s, const std::function<void()>& calculate);
 
 private:

@@ -6,23 +6,15 @@
 
 #include "calc/Connector.h"
 #include "calc/Screen.h"
-#include "check/JsonList.h"
 #include "check/MessageLog.h"
 #include "check/Named_inputs.h"
+#include "check/Table.h"
 #include "check/Validation.h"
 #include "spacing/Catalogue.h"
 
 namespace tarnvik {
 
 namespace {
-
-using Row = std::vector<std::string>;
-
-// The first row is the heading. A number stays one in the JSON.
-struct List {
-    std::vector<Row> rows;
-    std::vector<bool> numbers; // by column
-};
 
 std::string Text(float value) {
     return std::string{Shortest(value).View()};
@@ -32,8 +24,8 @@ std::string Text(std::string_view text) {
     return std::string{text};
 }
 
-List Bolts(const ConnectionState&) {
-    List list{{{"bolt", "d", "fuk"}}, {false, true, true}};
+Table Bolts(const ConnectionState&) {
+    Table list{{{"bolt", "d", "fuk"}}, {false, true, true}};
     for (const BoltRow& row : bolt_table) {
         list.rows.push_back({Text(row.caption), Text(row.d), Text(row.fuk)});
     }
@@ -55,8 +47,8 @@ std::string Fitting_bolts(ConnectionValues& s) {
     return bolts;
 }
 
-List Connectors(const ConnectionState& s) {
-    List list{{{"connector", "dc", "hc", "bolts"}}, {false, true, true, false}};
+Table Connectors(const ConnectionState& s) {
+    Table list{{{"connector", "dc", "hc", "bolts"}}, {false, true, true, false}};
     ConnectionValues asked = s;
     for (std::size_t i = 0; i < connector_table.size(); ++i) {
         const ConnectorRow& row = connector_table[i];
@@ -66,8 +58,8 @@ List Connectors(const ConnectionState& s) {
     return list;
 }
 
-List Materials(const ConnectionState& s) {
-    List list{{{"material", "type", "fc90k", "dens"}}, {false, false, true, true}};
+Table Materials(const ConnectionState& s) {
+    Table list{{{"material", "type", "fc90k", "dens"}}, {false, false, true, true}};
     for (int i = 0; i <= std::min<int>(s.Mat_count, mat_rows - 1); ++i) {
         const MatRecord& row = s.Mat[static_cast<std::size_t>(i)];
         list.rows.push_back({row.Id, row.Type, Text(row.fc90k), Text(row.dens)});
@@ -75,8 +67,8 @@ List Materials(const ConnectionState& s) {
     return list;
 }
 
-List Profiles(const ConnectionState& s) {
-    List list{{{"profile", "type", "b", "h"}}, {false, false, true, true}};
+Table Profiles(const ConnectionState& s) {
+    Table list{{{"profile", "type", "b", "h"}}, {false, false, true, true}};
     for (int i = 0; i <= std::min<int>(s.Prof1_count, prof_rows - 1); ++i) {
         const ProfRecord& row = s.Prof[static_cast<std::size_t>(i)];
         list.rows.push_back({row.Id, row.Type, Text(row.b), Text(row.h)});
@@ -84,13 +76,13 @@ List Profiles(const ConnectionState& s) {
     return list;
 }
 
-List Joints(const ConnectionState&) {
+Table Joints(const ConnectionState&) {
     constexpr std::array<std::array<std::string_view, 3>, 3> variants{{
         {"single", "single", "1"},
         {"double", "single", "2"},
         {"single", "double", "2"},
     }};
-    List list{{{"joint", "member 1", "member 2", "shear planes", "splits"}}, {false, false, false, true, false}};
+    Table list{{{"joint", "member 1", "member 2", "shear planes", "splits"}}, {false, false, false, true, false}};
     for (char type = '1'; type <= '5'; ++type) {
         for (std::size_t i = 0; i < variants.size(); ++i) {
             list.rows.push_back({std::string{type} + "." + std::to_string(i + 1), Text(variants[i][0]),
@@ -100,8 +92,8 @@ List Joints(const ConnectionState&) {
     return list;
 }
 
-List Cases(const ConnectionState&) {
-    List list{{{"case", "type", "bolts", "layout"}}, {false, true, true, false}};
+Table Cases(const ConnectionState&) {
+    Table list{{{"case", "type", "bolts", "layout"}}, {false, true, true, false}};
     for (const CaseRow& row : case_table) {
         list.rows.push_back({Text(row.Case_code), std::string{row.type}, std::to_string(row.n_bolt),
                              row.letter == ' ' ? "any" : std::string{row.letter}});
@@ -109,8 +101,8 @@ List Cases(const ConnectionState&) {
     return list;
 }
 
-List Inputs(const ConnectionState& s) {
-    List list{{{"input", "written as", "allowed", "meaning"}}, {false, false, false, false}};
+Table Inputs(const ConnectionState& s) {
+    Table list{{{"input", "written as", "allowed", "meaning"}}, {false, false, false, false}};
     for (const NamedInput& input : Named_inputs()) {
         list.rows.push_back({Text(input.name), "--" + Text(input.name), Text(input.allowed), Text(input.meaning)});
     }
@@ -122,7 +114,7 @@ List Inputs(const ConnectionState& s) {
 
 struct ListRow {
     std::string_view name;
-    List (*make)(const ConnectionState& s);
+    Table (*make)(const ConnectionState& s);
 };
 constexpr std::array list_rows{
     ListRow{"bolts", Bolts},       ListRow{"connectors", Connectors}, ListRow{"materials", Materials},
@@ -138,47 +130,6 @@ constexpr std::array<std::string_view, list_rows.size()> Names_of_rows() {
     return names;
 }
 constexpr std::array<std::string_view, list_rows.size()> list_names = Names_of_rows();
-
-std::string As_table(const List& list) {
-    std::vector<std::size_t> widths(list.numbers.size());
-    for (const Row& row : list.rows) {
-        for (std::size_t i = 0; i < row.size(); ++i) {
-            widths[i] = std::max(widths[i], Character_count(row[i]));
-        }
-    }
-    std::string text;
-    for (const Row& row : list.rows) {
-        std::string line;
-        for (std::size_t i = 0; i < row.size(); ++i) {
-            const std::string fill(widths[i] - Character_count(row[i]), ' ');
-            line += list.numbers[i] ? fill + row[i] : row[i] + fill;
-            line += "  ";
-        }
-        text += Right_trim(line);
-        text += "\n";
-    }
-    return text;
-}
-
-std::string As_json(const List& list) {
-    std::string json;
-    {
-        JsonList rows{json, '[', ']'};
-        for (std::size_t i = 1; i < list.rows.size(); ++i) {
-            rows.Next();
-            JsonList object{json, '{', '}'};
-            for (std::size_t k = 0; k < list.numbers.size(); ++k) {
-                object.Name(list.rows[0][k]);
-                if (list.numbers[k]) {
-                    json += list.rows[i][k];
-                } else {
-                    Append_json(json, list.rows[i][k]);
-                }
-            }
-        }
-    }
-    return json + "\n";
-}
 
 } // namespace
 

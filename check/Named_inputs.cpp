@@ -1,7 +1,6 @@
 #include "check/Named_inputs.h"
 
 #include <algorithm>
-#include <array>
 #include <charconv>
 #include <cmath>
 #include <cstdint>
@@ -65,7 +64,7 @@ std::optional<std::int16_t> Whole(std::string text, int least, int most, std::st
 std::optional<std::int16_t> Row_named(const std::vector<std::string_view>& names, std::string_view text) {
     const std::string plain = Plain_name(text);
     for (std::size_t i = 0; i < names.size(); ++i) {
-        if (!plain.empty() && Plain_name(names[i]) == plain) {
+        if (!plain.empty() && Has_plain_name(names[i], plain)) {
             return static_cast<std::int16_t>(i);
         }
     }
@@ -216,7 +215,8 @@ void Take_member2(Said& said, const NamedInput& input, const std::string& text) 
 }
 
 void Take_joint(Said& said, const NamedInput& input, const std::string& text) {
-    const std::string code{Trim(text)};
+    std::string code{Trim(text)};
+    std::replace(code.begin(), code.end(), ',', '.'); // of a spreadsheet with decimal commas
     if (code.size() != 3 || code[0] < '1' || code[0] > '5' || code[1] != '.' || code[2] < '1' || code[2] > '3') {
         Refuse(input.name, input.allowed, text);
     }
@@ -254,7 +254,7 @@ void Take_angle(Said& said, const NamedInput& input, const std::string& text) {
 }
 
 void Take_load(Said& said, const NamedInput& input, const std::string& text) {
-    static const std::vector<std::string_view> names{"permanent", "long", "medium", "short", "instantaneous"};
+    const std::vector<std::string_view> names{load_names.begin(), load_names.end()};
     const std::optional<std::int16_t> row = Row_named(names, text);
     said.Lastvar = row ? static_cast<std::int16_t>(*row + 1) : Whole(text, 1, static_cast<int>(names.size()));
     if (!said.Lastvar) {

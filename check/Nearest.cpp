@@ -1,7 +1,6 @@
 #include "check/Nearest.h"
 
 #include <algorithm>
-#include <cctype>
 #include <cstddef>
 #include <numeric>
 #include <utility>
@@ -16,6 +15,10 @@ constexpr std::size_t most_names = 3;
 constexpr std::size_t longest_compared = 40; // no name is longer
 constexpr std::size_t characters_to_a_change = 3;
 constexpr std::size_t longest_shown = 60;
+
+char Lower(char c) {
+    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+}
 
 // Insertions, deletions and replacements of a character that lead from one text to the other.
 std::size_t Changes(std::string_view one, std::string_view other) {
@@ -38,10 +41,26 @@ std::string Plain_name(std::string_view name) {
     std::string plain;
     for (const char c : Trim(name)) {
         if (c != ' ' || plain.back() != ' ') {
-            plain += static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
+            plain += Lower(c);
         }
     }
     return plain;
+}
+
+bool Has_plain_name(std::string_view name, std::string_view plain) {
+    std::size_t i = 0;
+    char last = '\0';
+    for (const char c : Trim(name)) {
+        if (c == ' ' && last == ' ') {
+            continue;
+        }
+        last = c;
+        if (i == plain.size() || plain[i] != Lower(c)) {
+            return false;
+        }
+        ++i;
+    }
+    return i == plain.size();
 }
 
 std::string Nearest_names(std::string_view wanted, const std::vector<std::string_view>& names) {

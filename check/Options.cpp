@@ -7,7 +7,9 @@
 #include <system_error>
 
 #include "calc/StateFields.h"
+#include "check/Find.h"
 #include "check/Lists.h"
+#include "check/Loads.h"
 #include "check/Nearest.h"
 
 namespace tarnvik {
@@ -59,21 +61,36 @@ opened and checked.
                      checks the verdict
   --strict           fail also where distances do not fit or a check was not made;
                      refuse inputs outside their ranges and impossible pairs
-  --batch            read inputs as JSON Lines from standard input, one result a line
+  --batch            read inputs from standard input, as JSON Lines or as a table (CSV),
+                     and print results of the same kind, one a line
   --jobs N           check the lines of a batch on N threads; results stay in order
   --sweep NAME=FROM:TO:STEP
                      verdicts over a range of an input, as CSV, or JSON with --json;
                      two of them give a grid
-  --plot FILE.svg    draw the utilisations over the input of --sweep
+  --plot FILE.svg    draw the utilisations over the input of --sweep, or what holds in
+                     the grid
+  --find             every bolt, number, layout and spacing of the bolts that holds and
+                     fits, fewest bolts first; as a table, CSV or JSON
+  --with-connectors  look among connectors too
+  --fix NAME=VALUE,...
+                     keep some of bolt,bolts,connector,layout,spacing
+  --loads FILE.csv   check the joint under load cases with the columns name, force (kN,
+                     above 0 compression) and load (load-duration class), and tell
+                     which governs; as a summary, CSV or JSON
+  --csv              CSV instead of the table of --find or --loads
   --save FILE        save the project after the check
   --report FILE.pdf  write the two-page report
+  --sheet FILE.html  write the check sheet: one page for a browser, two of A4 printed
+  --verify FILE.html calculate a check sheet again and hold it against that
   --pictures DIR     write every stored picture, as PNG and SVG, under its key
-  --help             this text
-  --version          the version
+  -h, --help         this text
+  -V, --version      the version; with --json as JSON
 
 A batch line is an object of inputs, or an array of such objects that are applied to
 the same connection one after the other; every line starts from a new project. Its
-keys are inputs, or the inputs by name without their dashes.
+keys are inputs, or the inputs by name without their dashes. In a table these are the
+columns; "Id" names a row. Between its cells stands ";" or ",", decimals are as in the
+input, and a column whose name begins with "#" is left out.
 
 Inputs (NAME): flags take true or false, the others a number or a text.
 )";
@@ -93,7 +110,7 @@ Inputs (NAME): flags take true or false, the others a number or a text.
 
 Exit status: 0 all calculated and no utilisation above 1.0; 1 all calculated, some
 utilisation above 1.0, or with --strict something that does not fit or was not
-checked; 2 wrong usage or unreadable input; 3 a check was stopped or its arithmetic
+checked, or nothing found; 2 wrong usage or unreadable input; 3 a check was stopped or its arithmetic
 failed.
 )";
     return text;
@@ -171,6 +188,12 @@ void Set_jobs(Options& options, const std::string& value) {
     }
 }
 
+void Set_fixed(Options& options, const std::string& value) {
+    for (auto& fixed : Parse_fixed(value)) {
+        options.fix.push_back(std::move(fixed));
+    }
+}
+
 // An option, what it expects as its value (null: it takes none) and what it does.
 struct OptionRow {
     std::string_view name;
@@ -192,11 +215,20 @@ constexpr std::array option_rows{
     OptionRow{"--strict",   nullptr,            [](Options& o, const std::string&) { o.strict = true; }},
     OptionRow{"--sweep",    "NAME=FROM:TO:STEP", [](Options& o, const std::string& value) { o.sweep.push_back(Parse_sweep(value)); }},
     OptionRow{"--plot",     "a file",           [](Options& o, const std::string& value) { o.plot = value; }},
+    OptionRow{"--find",     nullptr,            [](Options& o, const std::string&) { o.find = true; }},
+    OptionRow{"--with-connectors", nullptr,     [](Options& o, const std::string&) { o.with_connectors = true; }},
+    OptionRow{"--fix",      "NAME=VALUE,...",   Set_fixed},
+    OptionRow{"--loads",    "a file",           [](Options& o, const std::string& value) { o.loads = value; }},
+    OptionRow{"--csv",      nullptr,            [](Options& o, const std::string&) { o.csv = true; }},
     OptionRow{"--save",     "a file",           [](Options& o, const std::string& value) { o.save = value; }},
     OptionRow{"--report",   "a file",           [](Options& o, const std::string& value) { o.report = value; }},
+    OptionRow{"--sheet",    "a file",           [](Options& o, const std::string& value) { o.sheet = value; }},
+    OptionRow{"--verify",   "a file",           [](Options& o, const std::string& value) { o.verify = value; }},
     OptionRow{"--pictures", "a folder",         [](Options& o, const std::string& value) { o.pictures = value; }},
     OptionRow{"--help",     nullptr,            [](Options& o, const std::string&) { o.help = true; }},
+    OptionRow{"-h",         nullptr,            [](Options& o, const std::string&) { o.help = true; }},
     OptionRow{"--version",  nullptr,            [](Options& o, const std::string&) { o.version = true; }},
+    OptionRow{"-V",         nullptr,            [](Options& o, const std::string&) { o.version = true; }},
 };
 // clang-format on
 
@@ -256,10 +288,51 @@ void Take_option(Options& options, const std::vector<std::string>& arguments, st
     }
 }
 
+// What is not the check of one connection with its result has neither groups nor files of it.
+void Check_alone(const Options& options, const std::string& option) {
+    if (options.batch || options.projects.size() > 1 || options.save || options.report || !options.with.empty() ||
+        options.fields) {
+        throw UsageError{option +
+                         ": expected one project or none, and no --batch, --save, --report, --with or --fields"};
+    }
+}
+
+void Check_find(const Options& options) {
+    if (!options.find) {
+        if (options.with_connectors || !options.fix.empty()) {
+            throw UsageError{std::string{options.with_connectors ? "--with-connectors" : "--fix"} +
+                             ": expected --find beside it"};
+        }
+        return;
+    }
+    Check_alone(options, "--find");
+    Refuse_searched_inputs(options);
+}
+
+void Check_loads_option(const Options& options) {
+    if (options.loads) {
+        Check_alone(options, "--loads");
+        Refuse_loads_inputs(options);
+    }
+    const int asked = (options.find ? 1 : 0) + (options.loads ? 1 : 0) + (options.sweep.empty() ? 0 : 1);
+    if (asked > 1) {
+        throw UsageError{"--find, --loads, --sweep: expected one of them"};
+    }
+}
+
+void Check_csv(const Options& options) {
+    if (options.csv && options.json) {
+        throw UsageError{"--csv, --json: expected one of them, got both"};
+    }
+    if (options.csv && !options.find && !options.loads && options.sweep.empty()) {
+        throw UsageError{"--csv: expected --find, --loads or --sweep beside it"};
+    }
+}
+
 void Check_sweep(const Options& options) {
     constexpr std::size_t most_points = 100000;
-    if (options.plot && options.sweep.size() != 1) {
-        throw UsageError{"--plot: expected one --sweep beside it"};
+    if (options.plot && options.sweep.empty()) {
+        throw UsageError{"--plot: expected --sweep beside it"};
     }
     if (options.sweep.empty()) {
         return;
@@ -267,10 +340,7 @@ void Check_sweep(const Options& options) {
     if (options.sweep.size() > 2 || (options.sweep.size() == 2 && options.sweep[0].name == options.sweep[1].name)) {
         throw UsageError{"--sweep: expected one input, or two for a grid"};
     }
-    if (options.batch || options.projects.size() > 1 || options.save || options.report || !options.with.empty() ||
-        options.fields) {
-        throw UsageError{"--sweep: expected one project or none, and no --batch, --save, --report, --with or --fields"};
-    }
+    Check_alone(options, "--sweep");
     if (options.sweep.size() == 2 && options.sweep[0].Count() * options.sweep[1].Count() > most_points) {
         throw UsageError{"--sweep: expected a grid of at most 100000 points"};
     }
@@ -285,9 +355,15 @@ void Check_combination(const Options& options) {
         throw UsageError{"--list: expected no project and no batch beside it"};
     }
     Check_sweep(options);
+    Check_find(options);
+    Check_loads_option(options);
+    Check_csv(options);
     const bool several = options.batch || options.projects.size() > 1;
     if (options.save && several) {
         throw UsageError{"--save: expected one project, or none"};
+    }
+    if (options.sheet && several) {
+        throw UsageError{"--sheet: expected one project, or none"};
     }
     if (options.report && several) {
         throw UsageError{"--report: expected one project, or none"};

@@ -28,7 +28,14 @@ struct Options {
     bool checks{true};                              // the group `checks`: with --fields where it is asked for
     std::vector<SweepRange> sweep;                  // --sweep
     std::optional<std::string> plot;                // --plot: the SVG file
+    bool csv{};                                     // --csv
+    bool find{};                                    // --find
+    bool with_connectors{};                         // --with-connectors
+    NamedValues fix;                                // --fix
+    std::optional<std::string> loads;               // --loads: the CSV file
     std::optional<std::string> save;
+    std::optional<std::string> sheet;    // --sheet: the HTML file
+    std::optional<std::string> verify;   // --verify: such a file
     std::optional<std::string> report;   // --report: the PDF file
     std::optional<std::string> pictures; // --pictures: the folder
     std::vector<std::string> projects;

@@ -12,6 +12,7 @@
 #include "check/Named_inputs.h"
 #include "check/Nearest.h"
 #include "check/Options.h"
+#include "check/Table.h"
 
 namespace tarnvik {
 
@@ -50,25 +51,6 @@ bool Read(std::string_view text, double& value) {
     const char* const end = number.data() + number.size();
     const auto [stop, error] = std::from_chars(number.data(), end, value);
     return error == std::errc{} && stop == end && std::isfinite(value);
-}
-
-void Add_cell(std::string& line, std::string_view cell) {
-    if (!line.empty()) {
-        line += ',';
-    }
-    if (cell.find_first_of(",\"") == std::string_view::npos) {
-        line += cell;
-        return;
-    }
-    line += '"';
-    for (const char c : cell) {
-        line += c == '"' ? "\"\"" : std::string{c};
-    }
-    line += '"';
-}
-
-std::string Shown(bool known, float value) {
-    return known ? std::string{Shortest(value).View()} : std::string{};
 }
 
 } // namespace
@@ -118,45 +100,27 @@ SweepRange Parse_sweep(const std::string& text) {
 }
 
 std::string Sweep_heading(const std::vector<SweepRange>& ranges) {
-    std::string line;
+    TableRow row;
     for (const SweepRange& range : ranges) {
-        Add_cell(line, range.name);
+        row.push_back(range.name);
     }
-    for (std::size_t i = 0; i < check_count; ++i) {
-        const std::string name{Check_name(i)};
-        Add_cell(line, name);
-        if (i >= static_cast<std::size_t>(Check::bolts_fit_1)) {
-            Add_cell(line, name + "_limit");
-        }
-    }
-    return line + ",governing,holds,text,warnings\n";
+    Append_check_headings(row);
+    row.emplace_back("warnings");
+    return Csv_line(row);
 }
 
 std::string Sweep_line(const SweepPoint& point) {
-    const Judgement& judgement = point.judgement;
-    std::string line;
+    TableRow row;
     for (const double value : point.values) {
-        Add_cell(line, Rounded(value));
+        row.push_back(Rounded(value));
     }
-    const bool current = judgement.not_current.empty();
-    for (std::size_t i = 0; i < check_count; ++i) {
-        const CheckResult& check = judgement.verdict.checks[i];
-        const bool known = current && check.applies && check.checked;
-        Add_cell(line, Shown(known, check.value));
-        if (i >= static_cast<std::size_t>(Check::bolts_fit_1)) {
-            Add_cell(line, Shown(known, check.limit));
-        }
-    }
-    const std::optional<bool> holds = judgement.Holds();
-    Add_cell(line, current ? std::string(1, judgement.governing.mode) : std::string{});
-    Add_cell(line, holds ? *holds ? "true" : "false" : "");
-    Add_cell(line, Judgement_text(judgement, true));
+    Append_check_cells(row, point.judgement);
     std::string warnings;
     for (const std::string& warning : point.warnings) {
         warnings += (warnings.empty() ? "" : "; ") + warning;
     }
-    Add_cell(line, warnings);
-    return line + "\n";
+    row.push_back(warnings);
+    return Csv_line(row);
 }
 
 std::string Sweep_json(const std::vector<SweepRange>& ranges, const SweepPoint& point) {
@@ -168,12 +132,7 @@ std::string Sweep_json(const std::vector<SweepRange>& ranges, const SweepPoint& 
             json += Rounded(point.values[i]);
         }
         if (!point.warnings.empty()) {
-            object.Name("warnings");
-            JsonList warnings{json, '[', ']'};
-            for (const std::string& warning : point.warnings) {
-                warnings.Next();
-                Append_json(json, warning);
-            }
+            object.Member("warnings", point.warnings);
         }
         object.Name("checks");
         Append_checks(json, point.judgement, true);

@@ -1,6 +1,8 @@
 #include "check/Tool.h"
 
+#include <fstream>
 #include <istream>
+#include <iterator>
 #include <optional>
 #include <ostream>
 #include <string_view>
@@ -8,10 +10,13 @@
 
 #include "calc/RuntimeFault.h"
 #include "check/Batch.h"
+#include "check/Find.h"
 #include "check/Inputs.h"
 #include "check/Lists.h"
+#include "check/Loads.h"
 #include "check/Plot.h"
 #include "check/Recording.h"
+#include "check/Sheets.h"
 #include "check/Status.h"
 #include "check/Summary.h"
 #include "check/Validation.h"
@@ -36,6 +41,9 @@ int Tool::Run(const std::filesystem::path& folder) {
     if (options_.list) {
         out_ << List_text(*s_, *options_.list, options_.json);
         return exit_holds;
+    }
+    if (options_.verify) {
+        return Verify(*options_.verify);
     }
     if (options_.batch) {
         Set_all();
@@ -104,6 +112,12 @@ bool Tool::Acceptable(const std::string& project) {
 
 // A pass, its result and what was asked to be written.
 int Tool::One(const std::string& project) {
+    if (options_.find) {
+        return Find(project);
+    }
+    if (options_.loads) {
+        return Loads(project);
+    }
     if (!Acceptable(project)) {
         return exit_usage;
     }
@@ -133,10 +147,52 @@ int Tool::One(const std::string& project) {
     if (options_.report) {
         status = Worse(status, Write_report(result));
     }
+    if (options_.sheet) {
+        status = Worse(status, Write_sheet(judgement));
+    }
     if (options_.save) {
         status = Worse(status, Save());
     }
     return status;
+}
+
+// ---------------------------------------------------------------------------------------------------------------------
+// A search
+
+int Tool::Find(const std::string& project) {
+    const SearchLimits limits = Search_limits(options_.fix, options_.with_connectors);
+    Set_fasteners(*s_, limits.First()); // what the joint has of them itself counts for nothing
+    if (!Acceptable(project)) {
+        return exit_usage;
+    }
+    const SearchResult result = Search_fasteners(*s_, limits, true);
+    if (options_.json) {
+        out_ << Found_json(result, remarks_.warnings);
+    } else if (options_.csv) {
+        out_ << Found_csv(result);
+        err_ << (result.found.empty() ? "tarnvik-check: " + Nothing_found_text(result) : "");
+    } else {
+        out_ << Found_table(result);
+    }
+    return Search_status(result);
+}
+
+// ---------------------------------------------------------------------------------------------------------------------
+// Load cases
+
+int Tool::Loads(const std::string& project) {
+    const LoadTable table = Read_loads(*options_.loads);
+    s_->Lastvar = table.loads.front().Lastvar; // that of the joint counts for nothing
+    if (!Acceptable(project)) {
+        return exit_usage;
+    }
+    const LoadsResult result = Check_loads(*s_, table.loads);
+    if (options_.json) {
+        out_ << Loads_json(result, remarks_.warnings);
+    } else {
+        out_ << (options_.csv ? Loads_csv(result, table) : Loads_summary(result));
+    }
+    return Loads_status(result, options_.strict);
 }
 
 // ---------------------------------------------------------------------------------------------------------------------
@@ -197,7 +253,9 @@ SweepPoint Tool::Point(const std::vector<double>& values, const NamedValues& inp
 int Tool::Write_plot(const std::vector<SweepPoint>& points) {
     const std::string title = s_->Prosjekt + ", " + s_->Id;
     try {
-        Safe_write(*options_.plot, Plot_sweep(options_.sweep.front(), points, title), {OldTail::drop}, "Write_plot");
+        const std::string svg = options_.sweep.size() > 1 ? Plot_grid(options_.sweep, points, title)
+                                                          : Plot_sweep(options_.sweep.front(), points, title);
+        Safe_write(*options_.plot, svg, {OldTail::drop}, "Write_plot");
     } catch (const RuntimeFault& fault) {
         err_ << "tarnvik-check: " << *options_.plot << ": cannot be written: " << fault.description << "\n";
         return exit_usage;
@@ -220,6 +278,35 @@ int Tool::Write_report(const PassResult& result) {
         return exit_usage;
     }
     return exit_holds;
+}
+
+int Tool::Write_sheet(const Judgement& judgement) {
+    if (!judgement.not_current.empty()) {
+        err_ << "tarnvik-check: " << *options_.sheet << ": not written, the check was stopped\n";
+        return exit_stopped;
+    }
+    try {
+        Safe_write(*options_.sheet, Sheet_of(*s_, judge_, clock_.Now()), {OldTail::drop}, "Write_sheet");
+    } catch (const RuntimeFault& fault) {
+        err_ << "tarnvik-check: " << *options_.sheet << ": cannot be written: " << fault.description << "\n";
+        return exit_usage;
+    }
+    return exit_holds;
+}
+
+int Tool::Verify(const std::string& file) {
+    std::ifstream stream{file, std::ios::binary};
+    const std::string html{std::istreambuf_iterator<char>{stream}, {}};
+    if (!stream) {
+        throw UsageError{file + ": cannot be read"};
+    }
+    try {
+        const Verification found = Verify_sheet(html, session_, judge_);
+        out_ << file << ": " << found.text << "\n";
+        return found.holds ? exit_holds : exit_fails;
+    } catch (const UsageError& error) {
+        throw UsageError{file + ": " + error.text};
+    }
 }
 
 int Tool::Save() {

@@ -34,11 +34,15 @@ private:
     int Projects();
     int Project(const std::string& path);
     int One(const std::string& project);
+    int Find(const std::string& project);
+    int Loads(const std::string& project);
     int Sweep();
     SweepPoint Point(const std::vector<double>& values, const NamedValues& inputs, int& status);
     int Write_plot(const std::vector<SweepPoint>& points);
     bool Acceptable(const std::string& project);
     int Write_report(const PassResult& result);
+    int Write_sheet(const Judgement& judgement);
+    int Verify(const std::string& file);
     int Save();
 
     Options options_;

@@ -39,6 +39,13 @@ const SetEquation* Find(std::string_view key) {
     return row == rows.end() ? nullptr : &*row;
 }
 
+// As it is stored.
+QString File_of(const SetEquation& equation) {
+    Ask_for_resources();
+    const QLatin1String name{equation.name.data(), static_cast<qsizetype>(equation.name.size())};
+    return QStringLiteral(":/tarnvik/equations/%1.svg").arg(name);
+}
+
 // Where an equation comes to lie; empty without room.
 QRectF Place(const SetEquation& equation, const QRectF& room, double letter, std::optional<double> baseline) {
     const EquationBox& box = equation.box;
@@ -106,6 +113,15 @@ std::optional<QSizeF> Equation_size(std::string_view key, double letter) {
     return QSizeF{equation->box.width, equation->box.height} * (letter / units_per_letter);
 }
 
+std::string Equation_svg(std::string_view key) {
+    const SetEquation* const equation = Find(key);
+    if (equation == nullptr) {
+        return {};
+    }
+    QFile file{File_of(*equation)};
+    return file.open(QIODevice::ReadOnly) ? file.readAll().toStdString() : std::string{};
+}
+
 bool Paint_equation(std::string_view key, QPainter& painter, const QRectF& room, double letter) {
     const SetEquation* const equation = Find(key);
     if (equation == nullptr) {
@@ -113,9 +129,7 @@ bool Paint_equation(std::string_view key, QPainter& painter, const QRectF& room,
     }
     const QRectF place = Place(*equation, room, letter, std::nullopt);
     if (place.isValid()) { // QSvgRenderer would take the whole device without
-        Ask_for_resources();
-        const QLatin1String name{equation->name.data(), static_cast<qsizetype>(equation->name.size())};
-        QSvgRenderer{QStringLiteral(":/tarnvik/equations/%1.svg").arg(name)}.render(&painter, place);
+        QSvgRenderer{File_of(*equation)}.render(&painter, place);
     }
     return true;
 }

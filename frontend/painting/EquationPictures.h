@@ -12,6 +12,7 @@
 
 #include <array>
 #include <optional>
+#include <string>
 #include <string_view>
 
 class QPainter;
@@ -46,6 +47,9 @@ inline constexpr std::array<std::string_view, 22> equation_keys{
 
 // Size of a picture at a letter size, in the letter size's unit. Nothing for a key that is not among equation_keys.
 std::optional<QSizeF> Equation_size(std::string_view key, double letter);
+
+// The picture as it is stored. Empty for a key that is not among equation_keys.
+std::string Equation_svg(std::string_view key);
 
 // Paints a picture into `room` with letters of that size, in the units of the painter: at the left of the room and, up
 // and down, in its middle. Where the room is too small the picture is made smaller, evenly. False, with nothing

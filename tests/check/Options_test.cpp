@@ -113,8 +113,13 @@ TEST(Options, help_and_version_go_to_standard_output) {
         EXPECT_EQ(run.err, "");
         EXPECT_EQ(run.out.substr(0, 20), "Usage: tarnvik-check");
     }
-    EXPECT_EQ(Tool({"--version"}).out, "tarnvik-check 1.2.0\n");
-    EXPECT_EQ(Tool({"--version"}).status, exit_holds);
+    EXPECT_EQ(Tool({"-h"}).out, Help_text());
+    for (const char* option : {"--version", "-V"}) {
+        EXPECT_EQ(Tool({option}).out, "tarnvik-check 1.2.0\n");
+        EXPECT_EQ(Tool({option}).status, exit_holds);
+    }
+    EXPECT_EQ(Tool({"--version", "--json"}).out,
+              "{\"name\":\"tarnvik-check\",\"version\":\"1.2.0\",\"standard\":\"EN 1995-1-1:2004+A1:2008\"}\n");
 }
 
 TEST(Options, the_inputs_are_those_that_a_user_can_choose) {
@@ -140,7 +145,7 @@ TEST(Options, the_inputs_are_those_that_a_user_can_choose) {
 Arguments Options_in(const std::string& text) {
     Arguments found;
     for (std::size_t at = text.find("--"); at != std::string::npos; at = text.find("--", at + 2)) {
-        const std::size_t end = text.find_first_not_of("abcdefghijklmnopqrstuvwxyz0123456789", at + 2);
+        const std::size_t end = text.find_first_not_of("abcdefghijklmnopqrstuvwxyz0123456789-", at + 2);
         if (end > at + 2) {
             found.push_back(text.substr(at, end - at));
         }
@@ -168,7 +173,7 @@ TEST(Options, the_manual_page_tells_every_option_and_input_of_the_help) {
     }
     for (const std::string& option : Options_in(Help_text())) {
         if (option != "--help" && option != "--version" && option != "--json" && option != "--batch" &&
-            option != "--strict") {
+            option != "--strict" && option != "--find") {
             EXPECT_NE(Tool({option}).err.find("expected"), std::string::npos) << option;
         }
     }

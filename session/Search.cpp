@@ -1,20 +1,15 @@
 #include "session/Search.h"
 
 #include <algorithm>
-#include <memory>
 #include <tuple>
+#include <utility>
 
-#include "calc/pass/Main_beregn.h"
+#include "session/Variants.h"
+#include "spacing/Catalogue.h"
 
 namespace tarnvik {
 
 namespace {
-
-// A refused connector is a choice like any other that does not do.
-class Unheard final : public MessageBox {
-public:
-    void Show(std::string_view /*text*/, int /*style*/) override {}
-};
 
 // The rows to try: the given one, or all.
 struct Rows {
@@ -72,8 +67,11 @@ bool Ranks_before(const FoundFasteners& one, const FoundFasteners& other) {
 
 class Search {
 public:
-    Search(const ConnectionState& joint, bool english)
-        : s_(std::make_unique<ConnectionState>(joint)), joint_(joint), english_(english) {}
+    Search(const ConnectionState& joint, bool english) : variants_(joint), english_(english) {
+        ConnectionState& s = variants_.Fresh();
+        Get_Con_code(s);
+        types_ = {static_cast<char>('0' + s.Con_type), s.Con_code.View().front()};
+    }
 
     SearchResult Run(const SearchLimits& limits) {
         const Rows connectors = Connectors(limits);
@@ -95,41 +93,35 @@ private:
     // What differs in these alone often gives the same.
     void Layouts_and_spacings(Fasteners f, const SearchLimits& limits) {
         const Rows spacings = Spacings(limits);
-        const std::size_t first = result_.found.size();
-        for (const char layout : Layouts(limits)) {
+        const std::string_view layouts = Layouts(limits);
+        const bool both = layouts.size() > 1 && !Has_layouts(f);
+        weight_ = both ? layouts.size() : 1;
+        for (const char layout : layouts.substr(0, both ? 1 : layouts.size())) {
             f.Bolt_ab = layout;
             const std::size_t begin = result_.found.size();
             for (f.Avstand_index = spacings.first; f.Avstand_index <= spacings.last; ++f.Avstand_index) {
-                Try(f, begin);
-            }
-            if (begin > first) {
-                List_layouts_once(first, begin);
+                Try(f, both, begin);
             }
         }
     }
 
-    // Both arrangements are one entry where there is nothing to choose.
-    void List_layouts_once(std::size_t first, std::size_t second) {
-        auto& found = result_.found;
-        const auto begin = found.begin() + static_cast<std::ptrdiff_t>(first);
-        const auto middle = found.begin() + static_cast<std::ptrdiff_t>(second);
-        if (std::equal(begin, middle, middle, found.end(), [](const auto& one, const auto& other) {
-                return Same_results(one, other) && one.last_spacing == other.last_spacing;
-            })) {
-            found.erase(middle, found.end());
-            std::for_each(found.begin() + static_cast<std::ptrdiff_t>(first), found.end(),
-                          [](FoundFasteners& one) { one.both_layouts = true; });
-        }
+    // The arrangement counts for a pass by way of the case alone: whether the catalogue has one of each for the number.
+    [[nodiscard]] bool Has_layouts(const Fasteners& f) const {
+        const int number = bolt_numbers[static_cast<std::size_t>(f.Ant_index)];
+        return std::any_of(types_.begin(), types_.end(), [number](char type) {
+            return Find_case(type, number, 'a') != Find_case(type, number, 'b');
+        });
     }
 
     // `begin`: where the entries of the same arrangement begin.
-    void Try(const Fasteners& fasteners, std::size_t begin) {
+    void Try(const Fasteners& fasteners, bool both_layouts, std::size_t begin) {
         const std::optional<Judgement> judgement = Check_choice(fasteners);
         if (!judgement || !Note(judgement->verdict)) {
             return;
         }
-        const FoundFasteners found{fasteners,  false,     fasteners.Avstand_index, s_->Case_code, s_->Rd_bolt,
-                                   s_->Rd_for, *judgement};
+        const ConnectionState& s = variants_.State();
+        const FoundFasteners found{fasteners, both_layouts, fasteners.Avstand_index, s.Case_code, s.Rd_bolt,
+                                   s.Rd_for,  *judgement};
         auto& list = result_.found;
         if (list.size() > begin && list.back().last_spacing == found.last_spacing - 1 &&
             Same_results(list.back(), found)) {
@@ -141,18 +133,13 @@ private:
 
     // Nothing where the pass is stopped.
     std::optional<Judgement> Check_choice(const Fasteners& fasteners) {
-        static_cast<ConnectionValues&>(*s_) = joint_; // a pass leaves results and rounded sections
-        Set_fasteners(*s_, fasteners);
-        judge_.Begin();
-        ++result_.choices;
-        const PassResult pass = Run_pass(*s_, nullptr, box_);
-        if (pass.end != PassEnd::normal) {
-            Note_stopped(Reason_of(pass, *s_, english_));
+        Set_fasteners(variants_.Fresh(), fasteners);
+        result_.choices += weight_;
+        if (const PassResult pass = variants_.Pass(); pass.end != PassEnd::normal) {
+            Note_stopped(Reason_of(pass, variants_.State(), english_));
             return std::nullopt;
         }
-        standing_.Note_pass(*s_, pass);
-        judge_.After_pass(*s_, pass, true);
-        return judge_.Judge_results(*s_);
+        return variants_.Judge_results();
     }
 
     void Note_stopped(std::string_view reason) {
@@ -160,31 +147,29 @@ private:
         const auto row =
             std::find_if(stopped.begin(), stopped.end(), [&](const auto& one) { return one.reason == reason; });
         if (row == stopped.end()) {
-            stopped.push_back({reason, 1});
+            stopped.push_back({reason, weight_});
         } else {
-            ++row->choices;
+            row->choices += weight_;
         }
     }
 
     // Whether all holds.
     bool Note(const Verdict& verdict) {
         if (verdict.Holds()) {
-            ++result_.holding;
+            result_.holding += weight_;
             return true;
         }
         for (std::size_t i = 0; i < check_count; ++i) {
-            result_.failing[i] += verdict.checks[i].Fails() ? 1 : 0;
+            result_.failing[i] += verdict.checks[i].Fails() ? weight_ : 0;
         }
-        result_.not_checked += verdict[Check::splitting].checked ? 0 : 1;
+        result_.not_checked += verdict[Check::splitting].checked ? 0 : weight_;
         return false;
     }
 
-    std::unique_ptr<ConnectionState> s_;
-    const ConnectionValues& joint_;
+    Variants variants_;
     bool english_;
-    Unheard box_;
-    Standing standing_;
-    Judge judge_{standing_};
+    std::array<char, 2> types_{}; // by which a pass takes its case: of the connection and of its code
+    std::size_t weight_{1};       // choices that a pass stands for
     SearchResult result_;
 };
 

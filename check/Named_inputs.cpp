@@ -1,7 +1,6 @@
 #include "check/Named_inputs.h"
 
 #include <algorithm>
-#include <array>
 #include <charconv>
 #include <cmath>
 #include <cstdint>
@@ -255,7 +254,7 @@ void Take_angle(Said& said, const NamedInput& input, const std::string& text) {
 }
 
 void Take_load(Said& said, const NamedInput& input, const std::string& text) {
-    static const std::vector<std::string_view> names{"permanent", "long", "medium", "short", "instantaneous"};
+    const std::vector<std::string_view> names{load_names.begin(), load_names.end()};
     const std::optional<std::int16_t> row = Row_named(names, text);
     said.Lastvar = row ? static_cast<std::int16_t>(*row + 1) : Whole(text, 1, static_cast<int>(names.size()));
     if (!said.Lastvar) {

@@ -1,6 +1,7 @@
 // Inputs as an office names them: a bolt by its name, a member by its pieces and its section.
 #pragma once
 
+#include <array>
 #include <span>
 #include <string>
 #include <string_view>
@@ -17,6 +18,9 @@ struct NamedInput {
     std::string_view meaning;
 };
 std::span<const NamedInput> Named_inputs();
+
+// The load-duration classes by name. Row = Lastvar - 1.
+inline constexpr std::array<std::string_view, 5> load_names{"permanent", "long", "medium", "short", "instantaneous"};
 
 bool Is_named_input(std::string_view name);
 

@@ -9,6 +9,7 @@
 #include "calc/StateFields.h"
 #include "check/Find.h"
 #include "check/Lists.h"
+#include "check/Loads.h"
 #include "check/Nearest.h"
 
 namespace tarnvik {
@@ -72,7 +73,10 @@ opened and checked.
   --with-connectors  look among connectors too
   --fix NAME=VALUE,...
                      keep some of bolt,bolts,connector,layout,spacing
-  --csv              CSV instead of the table of --find
+  --loads FILE.csv   check the joint under load cases with the columns name, force (kN,
+                     above 0 compression) and load (load-duration class), and tell
+                     which governs; as a summary, CSV or JSON
+  --csv              CSV instead of the table of --find or --loads
   --save FILE        save the project after the check
   --report FILE.pdf  write the two-page report
   --pictures DIR     write every stored picture, as PNG and SVG, under its key
@@ -211,6 +215,7 @@ constexpr std::array option_rows{
     OptionRow{"--find",     nullptr,            [](Options& o, const std::string&) { o.find = true; }},
     OptionRow{"--with-connectors", nullptr,     [](Options& o, const std::string&) { o.with_connectors = true; }},
     OptionRow{"--fix",      "NAME=VALUE,...",   Set_fixed},
+    OptionRow{"--loads",    "a file",           [](Options& o, const std::string& value) { o.loads = value; }},
     OptionRow{"--csv",      nullptr,            [](Options& o, const std::string&) { o.csv = true; }},
     OptionRow{"--save",     "a file",           [](Options& o, const std::string& value) { o.save = value; }},
     OptionRow{"--report",   "a file",           [](Options& o, const std::string& value) { o.report = value; }},
@@ -296,18 +301,26 @@ void Check_find(const Options& options) {
         return;
     }
     Check_alone(options, "--find");
-    if (!options.sweep.empty()) {
-        throw UsageError{"--find, --sweep: expected one of them, got both"};
-    }
     Refuse_searched_inputs(options);
+}
+
+void Check_loads_option(const Options& options) {
+    if (options.loads) {
+        Check_alone(options, "--loads");
+        Refuse_loads_inputs(options);
+    }
+    const int asked = (options.find ? 1 : 0) + (options.loads ? 1 : 0) + (options.sweep.empty() ? 0 : 1);
+    if (asked > 1) {
+        throw UsageError{"--find, --loads, --sweep: expected one of them"};
+    }
 }
 
 void Check_csv(const Options& options) {
     if (options.csv && options.json) {
         throw UsageError{"--csv, --json: expected one of them, got both"};
     }
-    if (options.csv && !options.find && options.sweep.empty()) {
-        throw UsageError{"--csv: expected --find or --sweep beside it"};
+    if (options.csv && !options.find && !options.loads && options.sweep.empty()) {
+        throw UsageError{"--csv: expected --find, --loads or --sweep beside it"};
     }
 }
 
@@ -338,6 +351,7 @@ void Check_combination(const Options& options) {
     }
     Check_sweep(options);
     Check_find(options);
+    Check_loads_option(options);
     Check_csv(options);
     const bool several = options.batch || options.projects.size() > 1;
     if (options.save && several) {

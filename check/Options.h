@@ -32,6 +32,7 @@ struct Options {
     bool find{};                                    // --find
     bool with_connectors{};                         // --with-connectors
     NamedValues fix;                                // --fix
+    std::optional<std::string> loads;               // --loads: the CSV file
     std::optional<std::string> save;
     std::optional<std::string> report;   // --report: the PDF file
     std::optional<std::string> pictures; // --pictures: the folder

@@ -11,6 +11,7 @@
 #include "check/Find.h"
 #include "check/Inputs.h"
 #include "check/Lists.h"
+#include "check/Loads.h"
 #include "check/Plot.h"
 #include "check/Recording.h"
 #include "check/Status.h"
@@ -108,6 +109,9 @@ int Tool::One(const std::string& project) {
     if (options_.find) {
         return Find(project);
     }
+    if (options_.loads) {
+        return Loads(project);
+    }
     if (!Acceptable(project)) {
         return exit_usage;
     }
@@ -162,6 +166,24 @@ int Tool::Find(const std::string& project) {
         out_ << Found_table(result);
     }
     return Search_status(result);
+}
+
+// ---------------------------------------------------------------------------------------------------------------------
+// Load cases
+
+int Tool::Loads(const std::string& project) {
+    const LoadTable table = Read_loads(*options_.loads);
+    s_->Lastvar = table.loads.front().Lastvar; // that of the joint counts for nothing
+    if (!Acceptable(project)) {
+        return exit_usage;
+    }
+    const LoadsResult result = Check_loads(*s_, table.loads);
+    if (options_.json) {
+        out_ << Loads_json(result, remarks_.warnings);
+    } else {
+        out_ << (options_.csv ? Loads_csv(result, table) : Loads_summary(result));
+    }
+    return Loads_status(result, options_.strict);
 }
 
 // ---------------------------------------------------------------------------------------------------------------------

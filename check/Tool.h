@@ -35,6 +35,7 @@ private:
     int Project(const std::string& path);
     int One(const std::string& project);
     int Find(const std::string& project);
+    int Loads(const std::string& project);
     int Sweep();
     SweepPoint Point(const std::vector<double>& values, const NamedValues& inputs, int& status);
     int Write_plot(const std::vector<SweepPoint>& points);

@@ -213,11 +213,11 @@ TEST(Find, refusals) {
         {{"--with-connectors"},                      "--with-connectors: expected --find beside it"},
         {{"--find", "--bolt", "M16x8.8"},            "--find looks for bolt: expected --fix bolt=M16x8.8, got --bolt"},
         {{"--find", "--set", "Bolt_index=3"},        "--find looks for Bolt_index: expected --fix with an input by name, got --set Bolt_index"},
-        {{"--find", "--sweep", "P=0:1:1"},           "--find, --sweep: expected one of them, got both"},
+        {{"--find", "--sweep", "P=0:1:1"},           "--find, --loads, --sweep: expected one of them"},
         {{"--find", "--batch"},                      "--find: expected one project or none, and no --batch, --save, --report, --with or --fields"},
         {{"--find", "a.tnvik", "b.tnvik"},           "--find: expected one project or none, and no --batch, --save, --report, --with or --fields"},
         {{"--find", "--save", "a.tnvik"},            "--find: expected one project or none, and no --batch, --save, --report, --with or --fields"},
-        {{"--csv"},                                  "--csv: expected --find or --sweep beside it"},
+        {{"--csv"},                                  "--csv: expected --find, --loads or --sweep beside it"},
         {{"--find", "--csv", "--json"},              "--csv, --json: expected one of them, got both"},
     };
     // clang-format on

@@ -67,7 +67,8 @@ opened and checked.
   --sweep NAME=FROM:TO:STEP
                      verdicts over a range of an input, as CSV, or JSON with --json;
                      two of them give a grid
-  --plot FILE.svg    draw the utilisations over the input of --sweep
+  --plot FILE.svg    draw the utilisations over the input of --sweep, or what holds in
+                     the grid
   --find             every bolt, number, layout and spacing of the bolts that holds and
                      fits, fewest bolts first; as a table, CSV or JSON
   --with-connectors  look among connectors too
@@ -326,8 +327,8 @@ void Check_csv(const Options& options) {
 
 void Check_sweep(const Options& options) {
     constexpr std::size_t most_points = 100000;
-    if (options.plot && options.sweep.size() != 1) {
-        throw UsageError{"--plot: expected one --sweep beside it"};
+    if (options.plot && options.sweep.empty()) {
+        throw UsageError{"--plot: expected --sweep beside it"};
     }
     if (options.sweep.empty()) {
         return;

@@ -244,7 +244,9 @@ SweepPoint Tool::Point(const std::vector<double>& values, const NamedValues& inp
 int Tool::Write_plot(const std::vector<SweepPoint>& points) {
     const std::string title = s_->Prosjekt + ", " + s_->Id;
     try {
-        Safe_write(*options_.plot, Plot_sweep(options_.sweep.front(), points, title), {OldTail::drop}, "Write_plot");
+        const std::string svg = options_.sweep.size() > 1 ? Plot_grid(options_.sweep, points, title)
+                                                          : Plot_sweep(options_.sweep.front(), points, title);
+        Safe_write(*options_.plot, svg, {OldTail::drop}, "Write_plot");
     } catch (const RuntimeFault& fault) {
         err_ << "tarnvik-check: " << *options_.plot << ": cannot be written: " << fault.description << "\n";
         return exit_usage;

@@ -36,7 +36,7 @@ std::optional<Check> LoadsResult::Governing_distances() const {
 }
 
 std::optional<bool> LoadsResult::Holds() const {
-    const auto is = [this](std::optional<bool> holds) {
+    const auto is = [](std::optional<bool> holds) {
         return [holds](const CheckedLoad& one) { return one.judgement.Holds() == holds; };
     };
     if (std::any_of(loads.begin(), loads.end(), is(false))) {

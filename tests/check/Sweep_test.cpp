@@ -1,10 +1,8 @@
 #include "check/Sweep.h"
 
 #include <algorithm>
-#include <cmath>
 #include <sstream>
 
-#include "check/Plot.h"
 #include "tests/support/Tool.h"
 
 namespace tarnvik {
@@ -133,8 +131,7 @@ TEST(Sweep, refusals) {
         {{"--sweep", "P=0:1:1", "--sweep", "P=0:1:1"}, "--sweep: expected one input, or two for a grid"},
         {{"--sweep", "P=0:1:0.001", "--sweep", "alp=0:90:0.1"}, "--sweep: expected a grid of at most 100000 points"},
         {{"--sweep", "P=0:1:1", "--batch"}, "--sweep: expected one project or none, and no --batch, --save, --report, --with or --fields"},
-        {{"--plot", "f.svg"},               "--plot: expected one --sweep beside it"},
-        {{"--plot", "f.svg", "--sweep", "P=0:1:1", "--sweep", "alp=0:1:1"}, "--plot: expected one --sweep beside it"},
+        {{"--plot", "f.svg"},               "--plot: expected --sweep beside it"},
     };
     // clang-format on
     for (const Row& row : rows) {
@@ -143,63 +140,6 @@ TEST(Sweep, refusals) {
         EXPECT_EQ(run.status, 2);
         EXPECT_EQ(run.out, "");
     }
-}
-
-SweepPoint Point(double value, float bolts, char mode) {
-    SweepPoint point;
-    point.values = {value};
-    point.judgement.verdict.checks[0] = {true, true, bolts, 1.0F};
-    point.judgement.verdict.checks[1] = {true, true, 0.5F, 1.0F};
-    point.judgement.verdict.checks[2] = {true, true, 60.0F, 100.0F};
-    point.judgement.governing.mode = mode;
-    return point;
-}
-
-TEST(Plot, curves_limit_modes_and_units) {
-    SweepPoint stopped = Point(20.0, 0.7F, 'a');
-    stopped.judgement.not_current = "Not current";
-    const std::vector<SweepPoint> points{Point(0.0, 0.3F, 'c'), Point(10.0, 0.6F, 'c'), stopped, Point(30.0, 0.9F, 'f'),
-                                         Point(40.0, 1.2F, 'f')};
-    const std::string svg = Plot_sweep({"tension", 0.0, 40.0, 10.0}, points, "A < B");
-    EXPECT_EQ(svg.substr(0, 5), "<svg ");
-    EXPECT_EQ(svg.substr(svg.size() - 7), "</svg>\n");
-    EXPECT_NE(svg.find(">A &lt; B</text>"), std::string::npos);
-    EXPECT_NE(svg.find(">tension, kN</text>"), std::string::npos);
-    EXPECT_NE(svg.find(">limit 1.0</text>"), std::string::npos);
-    // 0 to 40 from x = 70 to 600; 0 to 1.26 (5 % above the largest) from y = 430 to 50: 0.3 at 339.5, 0.6 at 249.0.
-    EXPECT_NE(svg.find("points=\"70.0,339.5 70.0,339.5 202.5,249.0\""), std::string::npos) << svg;
-    EXPECT_NE(svg.find("points=\"467.5,158.6 467.5,158.6 600.0,68.1\""), std::string::npos); // behind the gap
-    const auto letters = [&svg](char mode) {
-        const std::string text = std::string{"font-weight=\"bold\">"} + mode + "</text>";
-        std::size_t count = 0;
-        for (std::size_t at = svg.find(text); at != std::string::npos; at = svg.find(text, at + 1)) {
-            ++count;
-        }
-        return count;
-    };
-    EXPECT_EQ(letters('c'), 1U); // where it begins
-    EXPECT_EQ(letters('f'), 1U);
-    EXPECT_EQ(letters('a'), 0U);
-    // Readable in grey: every colour is one.
-    for (std::size_t at = svg.find('#'); at != std::string::npos; at = svg.find('#', at + 1)) {
-        if (svg.compare(at, 6, "#frame") != 0) {
-            EXPECT_TRUE(svg[at + 1] == svg[at + 2] && svg[at + 2] == svg[at + 3]) << svg.substr(at, 8);
-        }
-    }
-}
-
-TEST(Plot, is_written_with_the_sweep) {
-    const test::TemporaryFolder folder;
-    const std::string file = (folder / "plot.svg").string();
-    const ToolRun run = Tool(Joint({"--tension", "12", "--sweep", "angle=0:90:1", "--plot", file}));
-    EXPECT_EQ(Text_lines(run.out).size(), 92U);
-    EXPECT_NE(test::Read_file(file).find("angle between the members, degrees"), std::string::npos);
-    const ToolRun nowhere = Tool(Joint({"--sweep", "angle=0:9:9", "--plot", "/nowhere/plot.svg"}));
-    EXPECT_EQ(nowhere.status, 2);
-    EXPECT_EQ(nowhere.err, "tarnvik-check: /nowhere/plot.svg: cannot be written: path not found\n");
-    // One value alone still has an axis.
-    EXPECT_EQ(Tool(Joint({"--tension", "1", "--sweep", "angle=5:5:1", "--plot", file})).status, 0);
-    EXPECT_EQ(test::Read_file(file).find("nan"), std::string::npos);
 }
 
 } // namespace

@@ -55,7 +55,30 @@ std::array<std::size_t, columns.size()> Places(const std::string& path, const Cs
         }
         places[i] = static_cast<std::size_t>(found - heading.cells.begin());
     }
+    for (std::size_t i = 0; i < heading.cells.size(); ++i) {
+        const std::string& cell = heading.cells[i];
+        if (std::find(places.begin(), places.end(), i) == places.end() && !cell.empty() && !cell.starts_with('#')) {
+            Refuse(path, heading.line,
+                   "expected name, force and load, got the column " + Quoted(cell) +
+                       "; a column of your own begins with #");
+        }
+    }
     return places;
+}
+
+// The decimal sign is the one that is seen first: the other one may be meant to part thousands.
+void Check_decimal(char& decimal, const std::string& force) {
+    const std::size_t at = force.find_first_of(",.");
+    if (at == std::string::npos) {
+        return;
+    }
+    if (decimal == '\0') {
+        decimal = force[at];
+    }
+    if (force.find(decimal == ',' ? '.' : ',') != std::string::npos) {
+        throw UsageError{std::string{"force: expected a decimal "} + (decimal == ',' ? "comma" : "point") +
+                         " as in the cells before, got " + Quoted(force)};
+    }
 }
 
 // The force as an input by name takes it, with a sign before it; spreadsheets also write it as a minus sign of its own.
@@ -85,9 +108,15 @@ std::int16_t Load_class(const std::string& cell) {
     return s->Lastvar;
 }
 
-LoadCase Load_of(const CsvRow& row, const std::array<std::size_t, columns.size()>& places) {
+LoadCase Load_of(const CsvRow& row, const CsvRow& heading, const std::array<std::size_t, columns.size()>& places) {
     if (!row.error.empty()) {
         throw UsageError{row.error};
+    }
+    for (std::size_t i = 0; i < heading.cells.size(); ++i) {
+        if (heading.cells[i].empty() && !row.cells[i].empty()) {
+            throw UsageError{"column " + std::to_string(i + 1) + " has no name: expected nothing in it, got " +
+                             Quoted(row.cells[i])};
+        }
     }
     const std::string& name = row.cells[places[0]];
     if (name.empty()) {
@@ -240,11 +269,11 @@ LoadTable Read_loads(const std::string& path) {
     }
     const auto places = Places(path, heading);
     LoadTable table{{}, reader.Style(), false};
-    bool comma = false;
-    bool point = false;
+    char decimal = '\0'; // none seen yet
     for (const CsvRow& row : rows) {
         try {
-            table.loads.push_back(Load_of(row, places));
+            table.loads.push_back(Load_of(row, heading, places));
+            Check_decimal(decimal, row.cells[places[1]]);
         } catch (const UsageError& error) {
             Refuse(path, row.line, error.text);
         }
@@ -253,13 +282,11 @@ LoadTable Read_loads(const std::string& path) {
                         [&](const LoadCase& load) { return load.name == name; })) {
             Refuse(path, row.line, "name: expected each name once, got " + Quoted(name) + " again");
         }
-        comma = comma || row.cells[places[1]].find(',') != std::string::npos;
-        point = point || row.cells[places[1]].find('.') != std::string::npos;
     }
     if (table.loads.empty()) {
         Refuse(path, 0, "expected a load case below the heading");
     }
-    table.decimal_comma = comma || (table.style.separator == ';' && !point);
+    table.decimal_comma = decimal == ',' || (decimal == '\0' && table.style.separator == ';');
     return table;
 }
 

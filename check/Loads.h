@@ -14,11 +14,11 @@ struct Options;
 struct LoadTable {
     std::vector<LoadCase> loads;
     CsvStyle style;
-    bool decimal_comma{}; // in a force; where none has decimals, as the separator goes with
+    bool decimal_comma{}; // as in the forces; where none has decimals, with ";"
 };
 
 // A CSV file with the columns name, force (kN or with its unit, above 0 compression) and load (load-duration class), in
-// any order; others are left out.
+// any order; others are refused, but for those that begin with "#".
 // Errors: throws UsageError with the file and the line.
 LoadTable Read_loads(const std::string& path);
 

@@ -46,10 +46,11 @@ TEST_F(Loads, tables_of_every_kind) {
         {"name;force;load\r\na;-12,5;Medium\r\n", -12.5F, 3},
         {"\xEF\xBB\xBFname;force;load\na;-12,5kN;3\n", -12.5F, 3},
         {"Load,Name,FORCE\nshort,a,+7 kN\n", 7.0F, 4},
-        {"name,remark,force,load\na,\"of \"\"us\"\"\",800N,instantaneous\n", 0.8F, 5},
+        {"name,#remark,force,load\na,\"of \"\"us\"\"\",800N,instantaneous\n", 0.8F, 5},
         {"name,force,load\na,\"-0,5\",long\n", -0.5F, 2},
         {"name,force,load\na,\u22122,permanent\n", -2.0F, 1}, // a minus sign
         {"name,force,load\n\na,0,1", 0.0F, 1},
+        {"name;force;load;;\na;0;1;;\n;;;;\n", 0.0F, 1},
     };
     for (const Row& row : rows) {
         const LoadTable read = Read(row.text);
@@ -78,6 +79,10 @@ TEST_F(Loads, refusals_name_file_and_line) {
         {"",                                           ": expected a heading with name, force and load, once each, got \"\""},
         {"name;kraft;load\n",                          ", line 1: expected a heading with name, force and load, once each, got \"name, kraft, load\""},
         {"name;force;load;name\n",                     ", line 1: expected a heading with name, force and load, once each, got \"name, force, load, name\""},
+        {"name;force;load;note\n",                     ", line 1: expected name, force and load, got the column \"note\"; a column of your own begins with #"},
+        {"name;force;load\na;1,5;short\nb;1.500;short\n", ", line 3: force: expected a decimal comma as in the cells before, got \"1.500\""},
+        {"name;force;load\na;1.5;short\nb;1,5;short\n", ", line 3: force: expected a decimal point as in the cells before, got \"1,5\""},
+        {"name;force;load;\na;1;short;x\n",             ", line 2: column 4 has no name: expected nothing in it, got \"x\""},
         {"name;force;load\n",                          ": expected a load case below the heading"},
         {"name;force;load\na;1\n",                     ", line 2: expected 3 cells as in the heading, got 2"},
         {"name;force;load\n;1;short\n",                ", line 2: name: expected a name, got nothing"},

@@ -49,7 +49,7 @@ _tarnvik_check_values() {
 
 _tarnvik_check() {
     local options="--angle --batch --bolt --bolts --compression --connector --csv --data --fields --find --fix --help --joint --jobs
-        --json --lang --layout --list --load --material --member1 --member2 --pictures --plot --report --save --service --set
+        --json --lang --layout --list --load --loads --material --member1 --member2 --pictures --plot --report --save --service --set
         --spacing --strict --sweep --tension --version --with --with-connectors -V -h"
     local command=${COMP_WORDS[0]} current=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD - 1]} head='' match
     COMPREPLY=()
@@ -63,7 +63,7 @@ _tarnvik_check() {
         mapfile -t COMPREPLY < <(compgen -d -- "$current")
         return
         ;;
-    --save | --report | --plot)
+    --save | --report | --plot | --loads)
         mapfile -t COMPREPLY < <(compgen -f -- "$current")
         return
         ;;

@@ -13,9 +13,9 @@ build_packages=(
     qt6-base-dev qt6-svg-dev fonts-liberation poppler-utils python3 locales
 )
 
-# What the tests of saving set access lists and attributes with, and stop a save with, and the validator of the tool's JSON;
-# without them those are skipped.
-test_packages=(acl attr strace python3-jsonschema)
+# What the tests of saving set access lists and attributes with, and stop a save with, the validator of the tool's JSON, and the
+# shell besides bash that completes its options; without them those are skipped.
+test_packages=(acl attr strace python3-jsonschema zsh)
 
 # What CI needs beyond that: formatter, linter, fuzzer, benchmarks. Debian 12 has version 14 of the clang tools.
 ci_packages=(

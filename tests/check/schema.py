@@ -3,7 +3,7 @@
 
 Both ways: whatever the tool prints has to be valid, every name that it knows has to be in the schemas, and nothing else; a batch
 line that the tool takes has to be valid, and one that is not has to be refused. Exit status 77 where the validator is missing."""
-import json, os, random, subprocess, sys
+import json, os, random, subprocess, sys, tempfile
 HERE = os.path.dirname(os.path.abspath(__file__))
 ROOT = os.path.dirname(os.path.dirname(HERE))
 sys.path.insert(0, os.path.join(ROOT, "tests", "reference"))
@@ -60,7 +60,8 @@ input_names = INPUT["definitions"]["inputs"]["properties"]
 defined = OUTPUT["definitions"]
 of_input = Draft7Validator(INPUT)
 of_output = Draft7Validator(OUTPUT)
-of_result, of_error, of_point, of_find = (validator(OUTPUT, name) for name in ("result", "error", "point", "find"))
+of_result, of_error, of_point, of_find, of_loads = (validator(OUTPUT, name)
+                                                    for name in ("result", "error", "point", "find", "loads"))
 
 
 def random_named():
@@ -146,6 +147,12 @@ for options in (["--tension", "5", "--member1", "48x198", "--member2", "48x223"]
     valid(of_find, found, "find %s" % options)
     found["found"] = found["found"][:2]
     others.append(found)
+with tempfile.NamedTemporaryFile("w", suffix=".csv") as file:
+    file.write("name,force,load\nsnow,12,short\nwind,-8.5,5\n")
+    file.flush()
+    for options in ([], ["--connector", "D75"], ["--set", "Man_he_on=true", "--set", "man_he=1000"], ["--set", "gm_T=0"]):
+        others.append(run("--loads", file.name, "--json", *options)[0])
+        valid(of_loads, others[-1], "loads %s" % options)
 for value in [whole, *others]:
     valid(of_output, value, "the choice of all")
     expect(not of_output.is_valid({**value, "more": 1}) if isinstance(value, dict) else True, "a name that is not known is taken")

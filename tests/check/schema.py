@@ -147,11 +147,12 @@ for options in (["--tension", "5", "--member1", "48x198", "--member2", "48x223"]
     valid(of_find, found, "find %s" % options)
     found["found"] = found["found"][:2]
     others.append(found)
-with tempfile.NamedTemporaryFile("w", suffix=".csv") as file:
-    file.write("name,force,load\nsnow,12,short\nwind,-8.5,5\n")
-    file.flush()
-    for options in ([], ["--connector", "D75"], ["--set", "Man_he_on=true", "--set", "man_he=1000"], ["--set", "gm_T=0"]):
-        others.append(run("--loads", file.name, "--json", *options)[0])
+with tempfile.NamedTemporaryFile("w", suffix=".csv", encoding="utf-8") as table:
+    table.write("name;force;load\nDead;4,5;permanent\nSnow;-11,5;short\n")
+    table.flush()
+    for options in ([], ["--connector", "D75"], ["--set", "Klima=7"], ["--connector", "D50", "--bolt", "M24x8.8"],
+                    ["--set", "Man_he_on=true", "--set", "man_he=900"]):
+        others.append(run("--json", "--loads", table.name, *options)[0])
         valid(of_loads, others[-1], "loads %s" % options)
 for value in [whole, *others]:
     valid(of_output, value, "the choice of all")

@@ -81,7 +81,7 @@ opened and checked.
   --save FILE        save the project after the check
   --report FILE.pdf  write the two-page report
   --sheet FILE.html  write the check sheet: one page for a browser, two of A4 printed
-  --sheets DIR       write the check sheet of every line of a batch, by its number and Id
+  --sheets DIR       write the check sheets of a batch, each by its number and Id
   --verify FILE.html calculate a check sheet again and hold it against that
   --pictures DIR     write every stored picture, as PNG and SVG, under its key
   -h, --help         this text
@@ -111,8 +111,8 @@ Inputs (NAME): flags take true or false, the others a number or a text.
 
 Exit status: 0 all calculated and no utilisation above 1.0; 1 all calculated, some
 utilisation above 1.0, or with --strict something that does not fit or was not
-checked, or nothing found; 2 wrong usage or unreadable input; 3 a check was stopped or its arithmetic
-failed.
+checked, or nothing found; 2 wrong usage or unreadable input; 3 a check was stopped or
+its arithmetic failed.
 )";
     return text;
 }

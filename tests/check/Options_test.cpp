@@ -122,6 +122,13 @@ TEST(Options, help_and_version_go_to_standard_output) {
               "{\"name\":\"tarnvik-check\",\"version\":\"1.2.0\",\"standard\":\"EN 1995-1-1:2004+A1:2008\"}\n");
 }
 
+TEST(Options, the_help_fits_a_terminal) {
+    std::istringstream lines{Help_text()};
+    for (std::string line; std::getline(lines, line);) {
+        EXPECT_LE(line.size(), 88U) << line;
+    }
+}
+
 TEST(Options, the_inputs_are_those_that_a_user_can_choose) {
     const Arguments expected{
         "Lang",   "Prosjekt",  "Id",      "Lastvar",       "Klima",       "gm_T",        "gm_L",

@@ -115,7 +115,8 @@ groups = re.search("expected (.*)\n", subprocess.run([TOOL, "--with", "?"], capt
 
 with tempfile.TemporaryDirectory() as folder:
     os.symlink(TOOL, os.path.join(folder, "tarnvik-check"))
-    open(os.path.join(folder, "heel.tnvik"), "w", encoding="utf-8").close()
+    for name in ("heel.tnvik", "loads.csv"):
+        open(os.path.join(folder, name), "w", encoding="utf-8").close()
     shell = Bash(folder) if SHELL == "bash" else Zsh(folder)
     expect(["--"], options - {"-h", "-V"}, only=SHELL == "bash")
     if SHELL == "bash":
@@ -146,6 +147,11 @@ with tempfile.TemporaryDirectory() as folder:
     expect(["--fix", ""], ["bolt", "bolts", "connector", "layout", "spacing"])
     expect(["--fix", "bolts="], ["1", "2", "3", "4", "6"])
     expect(["he"], ["heel.tnvik"])
+    expect(["--save", "he"], ["heel.tnvik"])
+    expect(["--loads", ""], ["loads.csv"], only=False)
+    os.mkdir(os.path.join(folder, "sheets"))
+    expect(["--sheets", ""], ["sheets"], only=SHELL == "bash")
+    expect(["--data", "sh"], ["sheets"])
 
 print("\n".join(failures) or "%s: all names and values offered" % SHELL)
 sys.exit(1 if failures else 0)

@@ -60,7 +60,8 @@ input_names = INPUT["definitions"]["inputs"]["properties"]
 defined = OUTPUT["definitions"]
 of_input = Draft7Validator(INPUT)
 of_output = Draft7Validator(OUTPUT)
-of_result, of_error, of_point, of_find, of_loads = (validator(OUTPUT, name) for name in ("result", "error", "point", "find", "loads"))
+of_result, of_error, of_point, of_find, of_loads = (validator(OUTPUT, name)
+                                                    for name in ("result", "error", "point", "find", "loads"))
 
 
 def random_named():

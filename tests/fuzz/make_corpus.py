@@ -94,6 +94,14 @@ def main():
                  b'"gm_L","gm_Ke","gm_K","Prosjekt","Id"]',
         "option": b"P=-12,5",
     })
+    seeds(folder, "csv", {
+        "comma": b'Id,P,alp\nK1,8.5,30\n"K2, ""x""",-3,90\n',
+        "semicolon": b"\xef\xbb\xbfId;tension;joint;Standard;#own;\r\nK1;8,5;1,2;SANN;x;\r\n;;;;;\r\nK2;1.5;;;;\r\n",
+        "names": b"bolt,bolts,layout,spacing,connector,material,member1,member2,compression,angle,load,service\n"
+                 b'M16x8.8,2,b,7d,D75,C24,2x48x198,48x223,12.5,40,medium,1\nM24x4.6,6,a,5,none,C14,48x98,"T 48x198",1,0,5,3\n',
+        "quotes": b'P,Id\n"1\n2,x\n"3",4"\n5,"6\n7",\n"8"',
+        "typed": b"P,member2,Man_he_on,man_he\n1,48x223,true,100\n1,48x98,true,0\n",
+    })
 
 
 if __name__ == "__main__":

@@ -113,14 +113,17 @@ void Get_splitting_member(const ConnectionValues& s, float& h, float& b) {
     b = s.Con_type == 1 ? s.b2 : s.b1;
 }
 
+bool Takes_half_force(const ConnectionValues& s) {
+    return std::find(half_force.begin(), half_force.end(), s.Con_code.View()) != half_force.end();
+}
+
 void Tverr_brudd(ConnectionValues& s, float h, float he, float b, const ScreenWriter& show) {
     constexpr std::string_view where = "Tverr_brudd";
     const float x = Store(Divide(he, h, where), where);
     const float y = Store(Divide(he, 1.0 - x, where), where);
     const float F90_Rk = Store(14.0 * b * Root(y, where) / 1000.0, where);
     s.F90_Rd = Store(Divide(static_cast<double>(s.kmod) * F90_Rk, s.gm, where), where);
-    const bool half = std::find(half_force.begin(), half_force.end(), s.Con_code.View()) != half_force.end();
-    const double force = std::fabs(half ? s.P / 2.0 : s.P);
+    const double force = std::fabs(Takes_half_force(s) ? s.P / 2.0 : s.P);
     s.P_sin = Store(std::sin(s.alp / degrees_per_radian) * force, where);
     s.Tverr_kontroll = Store(Divide(s.P_sin, s.F90_Rd, where), where);
     show.Utilisation(Control::Lbl_tverr_2, s.Tverr_kontroll, "0.00");

@@ -18,6 +18,9 @@ void Get_he_5(const ConnectionValues& s, float& h, float& b, float& he);
 // Height and width of the member that splits by Con_type: member 2 of type 1, member 1 of all others.
 void Get_splitting_member(const ConnectionValues& s, float& h, float& b);
 
+// Only half of the force acts on the member that splits: by Con_code.
+bool Takes_half_force(const ConnectionValues& s);
+
 // The check: F90_Rk = 14 b sqrt(he / (1 - he/h)), (8.4) with w = 1 for bolts; F90_Rd = kmod F90_Rk / gm; the force
 // across the grain, halved where the member that splits is doubled; Tverr_kontroll = P_sin / F90_Rd, shown in
 // Lbl_tverr_2. h, he, b in mm, capacities in kN.

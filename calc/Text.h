@@ -34,7 +34,10 @@ public:
         Assign(text);
         return *this;
     }
-    FixedText& operator=(const char* text) { return *this = std::string_view{text}; }
+    FixedText& operator=(const char* text) {
+        Assign(text);
+        return *this;
+    }
 
     // A text of another length is cut or filled up.
     template <std::size_t M> FixedText& operator=(const FixedText<M>& other) {

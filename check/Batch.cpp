@@ -3,12 +3,14 @@
 #include <algorithm>
 #include <condition_variable>
 #include <deque>
+#include <filesystem>
 #include <future>
 #include <istream>
 #include <mutex>
 #include <optional>
 #include <ostream>
 #include <string>
+#include <system_error>
 #include <thread>
 #include <utility>
 #include <vector>
@@ -17,6 +19,7 @@
 #include "check/Csv.h"
 #include "check/Line_blocks.h"
 #include "check/Line_check.h"
+#include "check/Nearest.h"
 #include "check/Progress.h"
 
 namespace tarnvik {
@@ -241,6 +244,13 @@ int Run_threads(const Options& options, const ConnectionState& fresh, BatchInput
 int Run_batch(const Options& options, const ConnectionState& fresh, std::istream& in, std::ostream& out,
               std::ostream& err) {
     // A row of the printed report may show what an earlier print left in it: such lines have to come one after another.
+    if (options.sheets) {
+        std::error_code error;
+        std::filesystem::create_directories(*options.sheets, error);
+        if (error) {
+            throw UsageError{"--sheets: " + Quoted(*options.sheets) + " cannot be made"};
+        }
+    }
     const bool report = std::find(options.with.begin(), options.with.end(), "report") != options.with.end();
     const auto run = options.jobs == 1 || report ? Run_alone : Run_threads;
     BatchInput input{in, options};

@@ -1,6 +1,8 @@
 #include "check/Tool.h"
 
+#include <fstream>
 #include <istream>
+#include <iterator>
 #include <optional>
 #include <ostream>
 #include <string_view>
@@ -14,6 +16,7 @@
 #include "check/Loads.h"
 #include "check/Plot.h"
 #include "check/Recording.h"
+#include "check/Sheets.h"
 #include "check/Status.h"
 #include "check/Summary.h"
 #include "check/Validation.h"
@@ -38,6 +41,9 @@ int Tool::Run(const std::filesystem::path& folder) {
     if (options_.list) {
         out_ << List_text(*s_, *options_.list, options_.json);
         return exit_holds;
+    }
+    if (options_.verify) {
+        return Verify(*options_.verify);
     }
     if (options_.batch) {
         Set_all();
@@ -140,6 +146,9 @@ int Tool::One(const std::string& project) {
     }
     if (options_.report) {
         status = Worse(status, Write_report(result));
+    }
+    if (options_.sheet) {
+        status = Worse(status, Write_sheet(judgement));
     }
     if (options_.save) {
         status = Worse(status, Save());
@@ -269,6 +278,35 @@ int Tool::Write_report(const PassResult& result) {
         return exit_usage;
     }
     return exit_holds;
+}
+
+int Tool::Write_sheet(const Judgement& judgement) {
+    if (!judgement.not_current.empty()) {
+        err_ << "tarnvik-check: " << *options_.sheet << ": not written, the check was stopped\n";
+        return exit_stopped;
+    }
+    try {
+        Safe_write(*options_.sheet, Sheet_of(*s_, judge_, clock_.Now()), {OldTail::drop}, "Write_sheet");
+    } catch (const RuntimeFault& fault) {
+        err_ << "tarnvik-check: " << *options_.sheet << ": cannot be written: " << fault.description << "\n";
+        return exit_usage;
+    }
+    return exit_holds;
+}
+
+int Tool::Verify(const std::string& file) {
+    std::ifstream stream{file, std::ios::binary};
+    const std::string html{std::istreambuf_iterator<char>{stream}, {}};
+    if (!stream) {
+        throw UsageError{file + ": cannot be read"};
+    }
+    try {
+        const Verification found = Verify_sheet(html, session_, judge_);
+        out_ << file << ": " << found.text << "\n";
+        return found.holds ? exit_holds : exit_fails;
+    } catch (const UsageError& error) {
+        throw UsageError{file + ": " + error.text};
+    }
 }
 
 int Tool::Save() {

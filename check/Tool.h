@@ -41,6 +41,8 @@ private:
     int Write_plot(const std::vector<SweepPoint>& points);
     bool Acceptable(const std::string& project);
     int Write_report(const PassResult& result);
+    int Write_sheet(const Judgement& judgement);
+    int Verify(const std::string& file);
     int Save();
 
     Options options_;

@@ -6,6 +6,8 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <optional>
+#include <string>
 #include <string_view>
 
 #include "data/SystemFile.h"
@@ -19,8 +21,8 @@ struct FileIdentity {
         read,
     };
     State state{State::missing};
-    std::uint64_t size{}; // bytes
-    std::uint64_t digest{};
+    std::uint64_t size{};   // bytes
+    std::uint64_t digest{}; // of this process: another one may have other digests
 
     friend bool operator==(const FileIdentity& one, const FileIdentity& other) = default;
 };
@@ -28,6 +30,13 @@ struct FileIdentity {
 // Never fails and never waits. Look before a file is read rather than after: what changes it in between is then
 // noticed.
 FileIdentity Identity_of(const std::filesystem::path& path);
+
+// The same with the content, where it could be read, for whoever is to read just that.
+struct SeenFile {
+    FileIdentity identity;
+    std::optional<std::string> content;
+};
+SeenFile See_file(const std::filesystem::path& path);
 
 // Of an open file, however large. Errors: throws std::system_error.
 FileIdentity Identity_of(const SystemFile& file);

@@ -63,7 +63,8 @@ private:
 
 class Reader {
 public:
-    explicit Reader(std::istream& file) : file_(file) {}
+    explicit Reader(std::istream& file) : file_(&file) {}
+    explicit Reader(std::string_view bytes) : rest_(bytes) {}
 
     void Field(std::int16_t& value) { value = static_cast<std::int16_t>(Word()); }
     void Field(float& value) {
@@ -87,6 +88,11 @@ public:
     // In blocks, so that a damaged length never asks for more memory than the file has bytes for.
     void Field(std::string& text) {
         std::size_t left = Word();
+        if (left <= rest_.size()) {
+            text = From_windows_1252(rest_.substr(0, left));
+            rest_.remove_prefix(left);
+            return;
+        }
         constexpr std::size_t block = 4096;
         std::string bytes;
         while (left > 0) {
@@ -129,16 +135,19 @@ private:
     }
     // A file has some thousand fields, most of them of two or four bytes: a stream takes long to give each by itself.
     void Read_block() {
-        file_.read(block_.data(), static_cast<std::streamsize>(block_.size()));
-        rest_ = {block_.data(), static_cast<std::size_t>(file_.gcount())};
+        if (file_ != nullptr) {
+            block_.resize(16384);
+            file_->read(block_.data(), static_cast<std::streamsize>(block_.size()));
+            rest_ = {block_.data(), static_cast<std::size_t>(file_->gcount())};
+        }
         if (rest_.empty()) {
             Raise(fault_bad_record_length, where);
         }
     }
 
-    std::istream& file_;
-    std::array<char, 16384> block_{};
-    std::string_view rest_; // of the block
+    std::istream* file_{}; // none where all the bytes are at hand
+    std::string block_;
+    std::string_view rest_; // of the block, or of all
 };
 
 // The fields of the records in the order of the file, for the writer and for the reader alike.
@@ -234,6 +243,12 @@ SaveReport Save_project(const ConnectionState& s, const fs::path& path) {
     Project_record record;
     Fill_project(s, record);
     return Save_project(s, record, path);
+}
+
+void Load_project_bytes(ConnectionState& s, Project_record& record, std::string_view bytes) {
+    Reader file{bytes};
+    Visit_parts(file, s, record);
+    Setup_to_state(s);
 }
 
 void Load_project(ConnectionState& s, Project_record& record, const fs::path& path) {

@@ -7,6 +7,7 @@
 #include <filesystem>
 #include <istream>
 #include <string>
+#include <string_view>
 
 #include "calc/GlobalParameter.h"
 #include "data/SafeWrite.h"
@@ -60,6 +61,9 @@ SaveReport Save_project(const ConnectionState& s, const std::filesystem::path& p
 // Errors: file not found (53), path not found (76), bad record length (59), path or file cannot be accessed (75). A
 // failure restores nothing: what was read so far stays.
 void Load_project(ConnectionState& s, Project_record& record, const std::filesystem::path& path);
+
+// The same with the bytes of a file that has been read. Errors: bad record length (59), as above.
+void Load_project_bytes(ConnectionState& s, Project_record& record, std::string_view bytes);
 
 // The message of a failed open: 53, 59 and 76 have one, any other failure has none. After a 59 Loading is false.
 void Open_project_failed(ConnectionState& s, int number, MessageBox& box);

@@ -1,9 +1,9 @@
 #include "detail/Detailed_calc.h"
 
-#include <cmath>
 #include <span>
 
 #include "calc/Words.h"
+#include "detail/Numbers.h"
 #include "report/Member_texts.h"
 
 namespace tarnvik {
@@ -25,20 +25,6 @@ enum Need : unsigned {
 };
 constexpr Need operator|(Need one, Need other) {
     return static_cast<Need>(static_cast<unsigned>(one) | static_cast<unsigned>(other));
-}
-
-struct Number {
-    float (*of)(const V& s){};
-    std::string_view picture;
-};
-template <auto member> float Of(const V& s) {
-    return static_cast<float>(s.*member);
-}
-template <auto member> float Absolute_of(const V& s) {
-    return std::fabs(s.*member);
-}
-template <auto member> float Thousandth_of(const V& s) {
-    return s.*member / 1000.0F;
 }
 
 using Text = std::string_view (*)(const V& s, bool english);
@@ -94,16 +80,16 @@ constexpr std::array strengths{
     Piece{twice,  0.0,   2.0,    {"Double shear :", "Dobbelsnittet forbindelse :"}, {}, Style::bold},
     Piece{always, 1.5,   2.0,    {"Calculation of k90 :", "Beregning av k90 :"}},
     Piece{always, 1.2,   2.0,    "k90 = 1.35 + 0.015 x d   = "},
-    Piece{always, 0.0,  22.0,    "1.35 + 0.015 x ", {Of<&V::d>, "00"}},
+    Piece{always, 0.0,  22.0,    "1.35 + 0.015 x ", numbers::d},
     Piece{always, 0.0,  joined,  "  ="},
-    Piece{always, 0.0,  40.0,    none, {Of<&V::k90>, "0.00"}},
+    Piece{always, 0.0,  40.0,    none, numbers::k90},
     Piece{always, 1.5,   2.0,    {"Calculation of characteristic embedment strength fhk :",
                                   "Beregning av karakteristisk hullkantfasthet fhk :"}},
     Piece{always, 1.2,   2.0,    "fh0k = 0.082 x (1 - 0.01 x d) x pk  = "},
-    Piece{always, 0.0,  29.0,    " 0.082 x  ( 1 - 0.01  x ", {Of<&V::d>, "00"}},
-    Piece{always, 0.0,  joined,  ") x ", {Of<&V::rho_k>, "00"}},
+    Piece{always, 0.0,  29.0,    " 0.082 x  ( 1 - 0.01  x ", numbers::d},
+    Piece{always, 0.0,  joined,  ") x ", numbers::rho_k},
     Piece{always, 0.0,  joined,  " = "},
-    Piece{always, 0.0,  55.0,    none, {Of<&V::fh0k>, "0.00"}},
+    Piece{always, 0.0,  55.0,    none, numbers::fh0k},
     Piece{always, 1.2,   2.0}, // to the first row of the fractions
 };
 
@@ -120,12 +106,12 @@ constexpr std::array embedments{
                   const MemberTexts* texts = Member_labels(s);
                   return texts == nullptr ? std::string_view{} : texts->label1.In(english);
               },
-              {Of<&V::alp1>, "0.0"}, "fh1k =", {Of<&V::fh1k>, "0.00"}},
+              numbers::alp1, "fh1k =", numbers::fh1k},
     Embedment{[](const V& s, bool english) {
                   const MemberTexts* texts = Member_labels(s);
                   return texts == nullptr ? std::string_view{} : texts->label2.In(english);
               },
-              {Of<&V::alp2>, "0.0"}, "fh2k =", {Of<&V::fh2k>, "0.00"}},
+              numbers::alp2, "fh2k =", numbers::fh2k},
 };
 
 // The pieces of a fraction that are the same for both members.
@@ -147,12 +133,12 @@ constexpr double symbol_x = 22.0;
 constexpr double value_x = 51.0;
 
 constexpr std::array thicknesses{
-    Piece{members, 0.0,  2.0,    "Beta :  fh2k / fh1k = ", {Of<&V::beta>, "0.00 "}},
-    Piece{members, 1.16, 2.0,    none, {Of<&V::t1>, "0.00"}, Style::plain,
+    Piece{members, 0.0,  2.0,    "Beta :  fh2k / fh1k = ", numbers::beta},
+    Piece{members, 1.16, 2.0,    none, numbers::t1, Style::plain,
           [](const V& s, bool /*english*/) { return s.t1_txt; }},
     Piece{members, 0.0,  joined, none, {}, Style::plain,
           [](const V& s, bool english) { return Member_notes(s)->note1.In(english); }},
-    Piece{members, 1.04, 2.0,    none, {Of<&V::t2>, "0.00"}, Style::plain,
+    Piece{members, 1.04, 2.0,    none, numbers::t2, Style::plain,
           [](const V& s, bool /*english*/) { return s.t2_txt; }},
     Piece{members, 0.0,  joined, none, {}, Style::plain,
           [](const V& s, bool english) { return Member_notes(s)->note2.In(english); }},
@@ -167,9 +153,9 @@ struct BesideRow {
     Words unit;
 };
 constexpr std::array beside{
-    BesideRow{5.5, {"My,Rk (Bolt, yield moment)          =", "My,Rk  (Bolt, flytemoment)        ="}, {Of<&V::My_Rk>, "0.00"},     "Nmm"},
-    BesideRow{2.6, {"Fax,Rk (Bolt, tensile capacity)     =", "Fax,Rk (Bolt, strekkapasitet)     ="}, {Of<&V::Fax_bolt>, "0.00"},  "N"},
-    BesideRow{0.0, {"Fax,Rk (Washer, axial capacity)  =",    "Fax,Rk (Skivens, trykkapasitet) ="},   {Of<&V::Fax_skive>, "0.00"}, "N"},
+    BesideRow{5.5, {"My,Rk (Bolt, yield moment)          =", "My,Rk  (Bolt, flytemoment)        ="}, numbers::My_Rk,     "Nmm"},
+    BesideRow{2.6, {"Fax,Rk (Bolt, tensile capacity)     =", "Fax,Rk (Bolt, strekkapasitet)     ="}, numbers::Fax_bolt,  "N"},
+    BesideRow{0.0, {"Fax,Rk (Washer, axial capacity)  =",    "Fax,Rk (Skivens, trykkapasitet) ="},   numbers::Fax_skive, "N"},
 };
 constexpr double beside_x = 35.0;
 constexpr double beside_value_x = 75.0;
@@ -198,16 +184,16 @@ struct Mode {
     Number capacity;
 };
 constexpr std::array modes{
-    Mode{single, 0.5, "Rk(a) = ",  1.0, {Thousandth_of<&V::Fv_a>, "0.00"}},
-    Mode{single, 0.6, "Rk(b) =",   1.0, {Thousandth_of<&V::Fv_b>, "0.00"}},
-    Mode{single, 1.7, "Rk(c) =",   1.2, {Thousandth_of<&V::Fv_c>, "0.00"}},
-    Mode{single, 2.0, "Rk(d) =",   1.5, {Thousandth_of<&V::Fv_d>, "0.00"}},
-    Mode{single, 2.0, "Rk(e) = ",  1.7, {Thousandth_of<&V::Fv_e>, "0.00"}},
-    Mode{single, 2.0, "Rk(f)  = ", 1.5, {Thousandth_of<&V::Fv_f>, "0.00"}},
-    Mode{twice,  0.5, "Rk(g) = ",  1.6, {Thousandth_of<&V::Fv_g>, "0.00"}},
-    Mode{twice,  0.8, "Rk(h) = ",  1.4, {Thousandth_of<&V::Fv_h>, "0.00"}},
-    Mode{twice,  1.8, "Rk(j) = ",  1.0, {Thousandth_of<&V::Fv_j>, "0.00"}},
-    Mode{twice,  2.2, "Rk(k) = ",  1.0, {Thousandth_of<&V::Fv_k>, "0.00"}},
+    Mode{single, 0.5, "Rk(a) = ",  1.0, numbers::Fv_a},
+    Mode{single, 0.6, "Rk(b) =",   1.0, numbers::Fv_b},
+    Mode{single, 1.7, "Rk(c) =",   1.2, numbers::Fv_c},
+    Mode{single, 2.0, "Rk(d) =",   1.5, numbers::Fv_d},
+    Mode{single, 2.0, "Rk(e) = ",  1.7, numbers::Fv_e},
+    Mode{single, 2.0, "Rk(f)  = ", 1.5, numbers::Fv_f},
+    Mode{twice,  0.5, "Rk(g) = ",  1.6, numbers::Fv_g},
+    Mode{twice,  0.8, "Rk(h) = ",  1.4, numbers::Fv_h},
+    Mode{twice,  1.8, "Rk(j) = ",  1.0, numbers::Fv_j},
+    Mode{twice,  2.2, "Rk(k) = ",  1.0, numbers::Fv_k},
 };
 constexpr double twice_rows = 2.2; // below the modes of double shear
 constexpr double mode_rows = 2.9;  // below the modes of either
@@ -215,12 +201,12 @@ constexpr double mode_rows = 2.9;  // below the modes of either
 constexpr std::array design{
     Piece{always,               0.0,  2.0,   {"Number of effective bolts, nef_b", "Effektive antall bolter, nef_b"}},
     Piece{always,               0.0, 42.0,   "="},
-    Piece{no_row,               0.0, 45.0,   none, {Of<&V::n_bolt>, "0"}},
-    Piece{row,                  0.0, 45.0,   none, {Of<&V::nef_b>, "0.00"}},
+    Piece{no_row,               0.0, 45.0,   none, numbers::n_bolt},
+    Piece{row,                  0.0, 45.0,   none, numbers::nef_b},
     Piece{connectors,           0.0, 50.0,   {"Number of eff. connectors, nef_c ", "Effektive antall forbindere, nef_f "}},
     Piece{connectors,           0.0, 77.0,   "="},
-    Piece{connectors | no_row,  0.0, 80.0,   none, {Of<&V::n_bolt>, "0"}},
-    Piece{connectors | row,     0.0, 80.0,   none, {Of<&V::nef_f>, "0.00"}},
+    Piece{connectors | no_row,  0.0, 80.0,   none, numbers::n_bolt},
+    Piece{connectors | row,     0.0, 80.0,   none, numbers::nef_f},
 
     Piece{always,               1.1,  2.0,   {"Design capacity of bolts, Rd_bolt", "Dimensjonerende kapasitet av bolter, Rd_bolt"}},
     Piece{always,               0.0, 42.0,   "="},
@@ -231,14 +217,14 @@ constexpr std::array design{
     Piece{twice,                0.0, 64.0,   "γ", {}, Style::symbol},
     Piece{twice,                0.0, 65.0,   "m"},
     Piece{always,               0.0, 77.0,   "="},
-    Piece{always,               0.0, 79.0,   none, {Of<&V::Rd_bolt>, "0.00"}},
+    Piece{always,               0.0, 79.0,   none, numbers::Rd_bolt},
     Piece{always,               0.0, joined, "  kN"},
 
     Piece{bolts_only,           1.0,  2.0,   "Kontroll  = P / Rd_bolt                                               ="},
-    Piece{bolts_only,           0.0, 45.0,   none,  {Absolute_of<&V::P>, "0.00"}, Style::warned},
-    Piece{bolts_only,           0.0, joined, " / ", {Of<&V::Rd_bolt>, "0.00"}},
+    Piece{bolts_only,           0.0, 45.0,   none,  numbers::P, Style::warned},
+    Piece{bolts_only,           0.0, joined, " / ", numbers::Rd_bolt},
     Piece{bolts_only,           0.0, 77.0,   "=",   {}, Style::warned},
-    Piece{bolts_only,           0.0, 79.0,   none,  {Of<&V::uf>, "0.00"}, Style::warned},
+    Piece{bolts_only,           0.0, 79.0,   none,  numbers::uf, Style::warned},
 
     Piece{connectors,           1.3,  2.0,   {"Design capacity of connectors, Rd_con.", "Dimensjonerende kapasitet av forbinder, Rd_for."}},
     Piece{connectors,           0.0, 42.0,   "="},
@@ -249,16 +235,16 @@ constexpr std::array design{
     Piece{connectors | twice,   0.0, 72.0,   "γ", {}, Style::symbol},
     Piece{connectors | twice,   0.0, 73.0,   "m"},
     Piece{connectors,           0.0, 77.0,   "="},
-    Piece{connectors,           0.0, 79.0,   none, {Of<&V::Rd_for>, "0.00"}},
+    Piece{connectors,           0.0, 79.0,   none, numbers::Rd_for},
     Piece{connectors,           0.0, joined, "  kN"},
     Piece{connectors,           1.0,  2.0,   {"Control = P / ( Rd_bolt + Rd_con. )", "Kontroll = P / ( Rd_bolt + Rd_for. )"}},
     Piece{connectors,           0.0, 42.0,   "="},
-    Piece{connectors,           0.0, 45.0,   none,     {Absolute_of<&V::P>, "0.00"}},
-    Piece{connectors,           0.0, joined, " /  ( ", {Of<&V::Rd_bolt>, "0.00"}},
-    Piece{connectors,           0.0, joined, " + ",    {Of<&V::Rd_for>, "0.00"}},
+    Piece{connectors,           0.0, 45.0,   none,     numbers::P},
+    Piece{connectors,           0.0, joined, " /  ( ", numbers::Rd_bolt},
+    Piece{connectors,           0.0, joined, " + ",    numbers::Rd_for},
     Piece{connectors,           0.0, joined, " ) "},
     Piece{connectors,           0.0, 77.0,   "="},
-    Piece{connectors,           0.0, 79.0,   none, {Of<&V::uf>, "0.00"}},
+    Piece{connectors,           0.0, 79.0,   none, numbers::uf},
 };
 // clang-format on
 
@@ -304,7 +290,7 @@ public:
                 text += piece.text(s_, english_);
             }
             if (piece.number.of != nullptr) {
-                text += Number_text(piece.number);
+                text += Shown(piece.number);
             }
             if (piece.x == joined) {
                 painting_.texts.back().text += text;
@@ -318,18 +304,18 @@ public:
     void Print(const Embedment& member) {
         Print(label_x, member.label(s_, english_));
         Print(alpha_x, "α", Style::symbol, 1.0);
-        Print(angle_x, "  =   " + Number_text(member.alpha), Style::plain, 1.0);
+        Print(angle_x, "  =   " + Shown(member.alpha), Style::plain, 1.0);
         Print(symbol_x, member.symbol, Style::plain, 0.5);
         const float upper = r_;
         Print(fraction);
         r_ = upper;
-        Print(value_x, "= " + Number_text(member.fhk), Style::plain, 0.5);
+        Print(value_x, "= " + Shown(member.fhk), Style::plain, 0.5);
         Down(fraction_rows);
     }
 
     void Print(const BesideRow& beside_row) {
         Print(beside_x, beside_row.words.In(english_), Style::plain, 0.0, beside_row.up);
-        Print(beside_value_x, Number_text(beside_row.number), Style::right, 0.0, beside_row.up);
+        Print(beside_value_x, Shown(beside_row.number), Style::right, 0.0, beside_row.up);
         Print(beside_unit_x, beside_row.unit.In(english_), Style::plain, 0.0, beside_row.up);
     }
 
@@ -341,7 +327,7 @@ public:
         Print(2.0, mode.label);
         Down(mode.offset);
         Print(77.0, "=");
-        Print(79.0, Number_text(mode.capacity) + "  kN");
+        Print(79.0, Shown(mode.capacity) + "  kN");
     }
 
     void Calculation() {
@@ -378,9 +364,7 @@ public:
     }
 
 private:
-    [[nodiscard]] std::string Number_text(const Number& number) const {
-        return std::string{Format(number.of(s_), number.picture).View()};
-    }
+    [[nodiscard]] std::string Shown(const Number& number) const { return Number_text(number, s_); }
 
     Painting& painting_;
     const V& s_;

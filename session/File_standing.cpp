@@ -1,6 +1,7 @@
 #include "session/File_standing.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace tarnvik {
 
@@ -61,19 +62,22 @@ Words Save_words(const RuntimeFault& fault) {
     }
 }
 
-void FileStanding::Look_at(const fs::path& path) {
+std::optional<std::string> FileStanding::Look_at(const fs::path& path) {
     path_ = Plain(path);
-    known_ = Identity_of(path_);
+    SeenFile seen = See_file(path_);
+    known_ = seen.identity;
+    return std::move(seen.content);
 }
 
 void FileStanding::Note_opened(const fs::path& path, const std::optional<RuntimeFault>& failure,
                                const std::optional<fs::path>& mended) {
-    const fs::path plain = Plain(path);
-    std::erase(unread_, plain);
+    if (failure || !unread_.empty()) {
+        std::erase(unread_, Plain(path));
+    }
     Say(false, {});
     mended_ = mended;
     if (failure) {
-        unread_.push_back(plain);
+        unread_.push_back(Plain(path));
         Say(true, {"Not opened: ", "Ikke åpnet: "}, Open_words(*failure));
     } else if (mended) {
         Say_kept({"Opened; a save that was cut off is kept as ", "Åpnet; en avbrutt lagring er tatt vare på som "},

@@ -20,8 +20,8 @@ Words Save_words(const RuntimeFault& fault);
 
 class FileStanding {
 public:
-    // Before the file is read.
-    void Look_at(const std::filesystem::path& path);
+    // Before the file is read, or instead: what it holds, where that can be told.
+    std::optional<std::string> Look_at(const std::filesystem::path& path);
 
     // The opening has ended. `mended`: what a save that was cut off had left, where the opening found such a thing.
     void Note_opened(const std::filesystem::path& path, const std::optional<RuntimeFault>& failure,

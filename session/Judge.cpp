@@ -56,15 +56,20 @@ Judgement Judge::Judge_results(const ConnectionValues& s) const {
         judgement.verdict = Verdict_of(s, results_.Splitting_current(s));
         return judgement;
     }
+    const ConnectionValues seen = With_typed_he(s);
+    judgement.verdict = Verdict_of(seen, typed_ && results_.Splitting_current(seen));
+    return judgement;
+}
+
+ConnectionValues Judge::With_typed_he(const ConnectionValues& s) const {
     ConnectionValues seen = s;
-    if (typed_) {
+    if (s.Man_he_on && typed_) {
         seen.he = typed_->he;
         seen.F90_Rd = typed_->F90_Rd;
         seen.P_sin = typed_->P_sin;
         seen.Tverr_kontroll = typed_->Tverr_kontroll;
     }
-    judgement.verdict = Verdict_of(seen, typed_ && results_.Splitting_current(seen));
-    return judgement;
+    return seen;
 }
 
 } // namespace tarnvik

@@ -35,6 +35,9 @@ public:
     // Of the results as they stand.
     [[nodiscard]] Judgement Judge_results(const ConnectionValues& s) const;
 
+    // The values as they are judged: with what the check of a typed he has found, which the pass leaves out.
+    [[nodiscard]] ConnectionValues With_typed_he(const ConnectionValues& s) const;
+
 private:
     void Check_typed_he(const ConnectionValues& s);
 

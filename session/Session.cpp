@@ -38,20 +38,25 @@ void Session::Recalculate() {
     }
 }
 
-void Session::Read_project(const std::string& path, const std::function<void()>& show) {
+void Session::Read_project(const std::string& path, const FileContent& content, const std::function<void()>& show) {
     results_.Forget_splitting(); // a typed he comes with the file, its check does not
     saved_.reset();
     Project_record record;
-    Load_project(s_, record, path);
+    if (content) {
+        Load_project_bytes(s_, record, *content);
+    } else {
+        Load_project(s_, record, path);
+    }
     Apply_project(s_, record);
     if (show) {
         show();
     }
 }
 
-std::optional<RuntimeFault> Session::Try_read(const std::string& path, const std::function<void()>& show) {
+std::optional<RuntimeFault> Session::Try_read(const std::string& path, const FileContent& content,
+                                              const std::function<void()>& show) {
     try {
-        Read_project(path, show);
+        Read_project(path, content, show);
     } catch (const RuntimeFault& fault) {
         Open_project_failed(s_, fault.number, view_.Box());
         return fault;
@@ -62,15 +67,16 @@ std::optional<RuntimeFault> Session::Try_read(const std::string& path, const std
 std::optional<RuntimeFault> Session::Open_project(const std::string& path, const std::function<void()>& show) {
     std::optional<RuntimeFault> failure;
     std::optional<std::filesystem::path> mended;
+    FileContent content;
     try {
         mended = Mend_file(path, "Open_project");
-        file_.Look_at(path);
+        content = file_.Look_at(path);
     } catch (const RuntimeFault& fault) {
         Open_project_failed(s_, fault.number, view_.Box());
         failure = fault;
     }
     if (!failure) {
-        failure = Try_read(path, show);
+        failure = Try_read(path, content, show);
     }
     file_.Note_opened(path, failure, mended);
     Name(path);
@@ -79,7 +85,7 @@ std::optional<RuntimeFault> Session::Open_project(const std::string& path, const
 
 std::optional<RuntimeFault> Session::Recover(const std::string& path, const std::string& project,
                                              const std::function<void()>& show) {
-    const std::optional<RuntimeFault> failure = Try_read(path, show);
+    const std::optional<RuntimeFault> failure = Try_read(path, {}, show);
     if (!failure && project.empty()) {
         Name_new_file(s_);
     } else if (!failure) {

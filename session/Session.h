@@ -125,8 +125,11 @@ private:
         friend bool operator==(const Content& one, const Content& other) = default;
     };
     [[nodiscard]] Content Content_now(const std::optional<TypedNames>& typed) const;
-    void Read_project(const std::string& path, const std::function<void()>& show);
-    std::optional<RuntimeFault> Try_read(const std::string& path, const std::function<void()>& show);
+    // `content`: what the file holds, where it has been read already.
+    using FileContent = std::optional<std::string>;
+    void Read_project(const std::string& path, const FileContent& content, const std::function<void()>& show);
+    std::optional<RuntimeFault> Try_read(const std::string& path, const FileContent& content,
+                                         const std::function<void()>& show);
 
     ConnectionState& s_;
     SessionView& view_;

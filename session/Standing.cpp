@@ -29,13 +29,17 @@ constexpr std::array<FailureWords, 4> failure_words{{
     {Check::connectors_fit_1, Check::connectors_fit_2, {"distances of connectors",  "avstander for forbindere"}},
 }};
 
-constexpr std::array<Words, check_count> check_words{{
-    {"Utilisation",                         "Utnyttelse"},
-    {"Splitting",                           "Tverrstrekk"},
-    {"Distances of bolts, member 1",        "Avstander for bolter, del 1"},
-    {"Distances of bolts, member 2",        "Avstander for bolter, del 2"},
-    {"Distances of connectors, member 1",   "Avstander for forbindere, del 1"},
-    {"Distances of connectors, member 2",   "Avstander for forbindere, del 2"},
+struct CheckRow {
+    Words words;
+    std::string_view clause;
+};
+constexpr std::array<CheckRow, check_count> check_rows{{
+    {{"Utilisation",                        "Utnyttelse"},                         "8.2.2, 8.5.1"},
+    {{"Splitting",                          "Tverrstrekk"},                        "8.1.4"},
+    {{"Distances of bolts, member 1",       "Avstander for bolter, del 1"},        "table 8.4"},
+    {{"Distances of bolts, member 2",       "Avstander for bolter, del 2"},        "table 8.4"},
+    {{"Distances of connectors, member 1",  "Avstander for forbindere, del 1"},    "8.10, tables 8.7 to 8.9"},
+    {{"Distances of connectors, member 2",  "Avstander for forbindere, del 2"},    "8.10, tables 8.7 to 8.9"},
 }};
 
 // A failure mode of single or of double shear.
@@ -126,6 +130,16 @@ std::string Verdict_text(const Verdict& verdict, bool english) {
     return english ? "Holds" : "Holder";
 }
 
+std::string_view Check_words(Check check, bool english) {
+    return check_rows[static_cast<std::size_t>(check)].words.In(english);
+}
+
+// The utilisation is that of bolts and connectors together.
+std::string_view Check_clause(const Verdict& verdict, Check check) {
+    const bool connectors = check == Check::utilisation && verdict[Check::connectors_fit_1].applies;
+    return connectors ? "8.2.2, 8.5.1, 8.10" : check_rows[static_cast<std::size_t>(check)].clause;
+}
+
 std::string Verdict_details(const Verdict& verdict, const ConnectionValues& s, bool english) {
     std::string text;
     for (std::size_t i = 0; i < check_count; ++i) {
@@ -133,7 +147,7 @@ std::string Verdict_details(const Verdict& verdict, const ConnectionValues& s, b
         if (!check.applies) {
             continue;
         }
-        text += check_words[i].In(english);
+        text += check_rows[i].words.In(english);
         text += ": ";
         if (check.checked) {
             const bool ratio = i < static_cast<std::size_t>(Check::bolts_fit_1);

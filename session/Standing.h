@@ -48,6 +48,10 @@ Verdict Verdict_of(const ConnectionValues& s, bool splitting_checked);
 // "Holds", "Splitting not checked", or what does not hold, in words.
 std::string Verdict_text(const Verdict& verdict, bool english);
 
+// What is checked, in words, and the clause of EN 1995-1-1 or its table.
+std::string_view Check_words(Check check, bool english);
+std::string_view Check_clause(const Verdict& verdict, Check check);
+
 // A line for each check with its figures, and the failure mode that governs.
 std::string Verdict_details(const Verdict& verdict, const ConnectionValues& s, bool english);
 

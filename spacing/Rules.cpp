@@ -66,6 +66,32 @@ enum ConnectorNumber : std::uint8_t {
     no_number_D,   // not written
 };
 
+// The formulas of the numbers above.
+// clang-format off
+constexpr std::array<std::string_view, no_number + 1> bolt_formulas{
+    "3*d", "4*d", "7*d", "N*d",
+    "(4 + cos(alpha))*d",
+    "max(7*d; 80)",
+    "max((2 + 2*sin(alpha))*d; 3*d)",
+    "max((1 + 6*sin(alpha))*d; 4*d)",
+    "max((1 + 6*sin(0))*d; 4*d)",
+    "max((4 + cos(alpha))*d*sin(alpha); 4*d)",
+    "max(N*d*sin(alpha); 4*d)",
+    "max(7*d; 80)", "max(7*d; 80)", "max(7*d; 80)",
+};
+constexpr std::array<std::string_view, no_number_D + 1> connector_formulas{
+    "0.6*D", "0.8*D", "1.2*D", "1.5*D", "2*D",
+    "max(N*d; 1.5*D)",
+    "(1.2 + 0.3*cos(alpha))*D",
+    "(0.6 + 0.2*sin(alpha))*D",
+    "(0.9 + 0.6*sin(alpha))*D",
+    "(0.9 + 0.6*sin(0))*D",
+    "max((1.2 + 0.3*cos(alpha))*D*sin(alpha); 1.2*D)",
+    "max(max(N*d; 1.5*D)*sin(alpha); 1.2*D)", "max(max(N*d; 1.5*D)*sin(alpha); 1.2*D)",
+    "0.6*D", // as the text says
+};
+// clang-format on
+
 struct BoltRule {
     BoltCode code;
     BoltNumber number;
@@ -759,6 +785,11 @@ Cell Connector_cell(const ConnectorRule& rule, const Terms& t) {
     return {};
 }
 
+// At a force of exactly zero every distance takes the tension column but one.
+bool Takes_compression(const ConnectionValues& s, const CaseRules& rules, Distance distance) {
+    return s.P > 0.0F || (s.P == 0.0F && distance == rules.compression_at_zero);
+}
+
 // The first n distances of a family from `first`, as they then stand.
 float Sum(const SpacingRecord& record, int first, int n, float SpacingRecord::*DistanceFields::*kind) {
     double sum = 0.0;
@@ -808,7 +839,7 @@ void Calc_spacing(ConnectionValues& s, int case_row) {
 
     SpacingRecord& record = s;
     for (const DistanceRule& row : rules.distances) {
-        const bool compression = s.P > 0.0F || (s.P == 0.0F && row.distance == rules.compression_at_zero);
+        const bool compression = Takes_compression(s, rules, row.distance);
         const DistanceFields& fields = distance_fields[row.distance];
         record.*fields.lbl = labels[row.distance];
         if (const BoltCode code = compression ? row.bolt_compression : row.bolt_tension; code != dash_B) {
@@ -830,6 +861,44 @@ void Calc_spacing(ConnectionValues& s, int case_row) {
     record.Sum_ca = Sum(record, a1, rules.sum_a.connectors, &DistanceFields::C);
     record.Sum_b = Sum(record, b1, rules.sum_b.bolts, &DistanceFields::S);
     record.Sum_cb = Sum(record, b1, rules.sum_b.connectors, &DistanceFields::C);
+}
+
+std::vector<ListedDistance> Listed_distances(const ConnectionValues& s, int case_row) {
+    const CaseRules& rules = case_rules[static_cast<std::size_t>(case_row)];
+    std::vector<ListedDistance> listed;
+    for (const DistanceRule& row : rules.distances) {
+        const bool compression = Takes_compression(s, rules, row.distance);
+        const DistanceFields& fields = distance_fields[row.distance];
+        ListedDistance found{row.distance, {}, {}, {}, {}};
+        if (const BoltCode code = compression ? row.bolt_compression : row.bolt_tension; code != dash_B) {
+            found.S_formula = bolt_formulas[bolt_legend[code - 1U].number];
+        }
+        if (const ConnectorCode code = compression ? row.connector_compression : row.connector_tension;
+            code != dash_C) {
+            found.C_formula = connector_formulas[connector_legend[code - 1U].number];
+        }
+        // A distance is above zero: zero stands for no number.
+        if (s.*fields.S > 0.0F) {
+            found.S = s.*fields.S;
+        }
+        if (s.*fields.C > 0.0F) {
+            found.C = s.*fields.C;
+        }
+        if (row.distance != rules.beside) {
+            listed.push_back(found);
+            continue;
+        }
+        // What stands beside the joint belongs to its last distance, b3, which is the last one before it.
+        ListedDistance& last = listed.back();
+        if (!last.S) {
+            last.S = found.S;
+        }
+        if (!last.C && found.C) {
+            last.C = found.C;
+            last.C_formula = found.C_formula;
+        }
+    }
+    return listed;
 }
 
 int Sum_length_a(int case_row) {

@@ -8,6 +8,8 @@
 #pragma once
 
 #include <array>
+#include <optional>
+#include <vector>
 
 #include "calc/GlobalParameter.h"
 #include "spacing/Catalogue.h"
@@ -92,6 +94,20 @@ void Get_N_d(const ConnectionValues& s, float& value, std::string_view& text);
 
 // Fills the record with the distances of a case (a row of the catalogue), from d, dc, alp, P and Avstand_index.
 void Calc_spacing(ConnectionValues& s, int case_row);
+
+// A distance of the joint under its own name, whatever a cell of the record leaves out or lends to another: the
+// record's number, and the formula that it comes from, for bolts and for connectors. The formulas have d and D, the
+// diameters of bolt and connector, N, the chosen spacing as a multiple of d, and alpha: "max((2 + 2*sin(alpha))*d;
+// 3*d)", mm.
+struct ListedDistance {
+    Distance distance;
+    std::string_view S_formula, C_formula;
+    std::optional<float> S, C; // mm; nothing where the record has no number, which its sum then lacks
+};
+
+// All distances of the joint of a case (a row of the catalogue): those of member 1, then those of member 2, each in the
+// order of MemberDistances. From the record as Calc_spacing has filled it, and the sign of P.
+std::vector<ListedDistance> Listed_distances(const ConnectionValues& s, int case_row);
 
 // Number of distances of a family that its sum adds, of the bolts.
 int Sum_length_a(int case_row);

@@ -24,11 +24,12 @@ ROOMS = {
     "report": {"ports", "calc", "spacing"},
     "detail": {"calc", "spacing", "report"},
     "session": {"ports", "calc", "calc/pass", "spacing", "data", "report"},
-    "check": {"ports", "calc", "calc/pass", "spacing", "data", "report", "detail", "session"},
+    "sheet": {"ports", "calc", "calc/pass", "spacing", "spacing/sketch", "report", "detail", "session"},
+    "check": {"ports", "calc", "calc/pass", "spacing", "data", "report", "detail", "session", "sheet"},
     "frontend/painting": {"ports", "calc", "spacing", "spacing/sketch", "data", "report"},
     "frontend/controls": {"calc", "detail", "frontend/painting"},
-    "frontend/services": {"ports", "calc", "session", "frontend/painting"},
-    "frontend/dialogs": {"ports", "calc", "data", "detail", "session", "frontend/painting", "frontend/controls"},
+    "frontend/services": {"ports", "calc", "spacing/sketch", "session", "frontend/painting"},
+    "frontend/dialogs": {"ports", "calc", "data", "detail", "session", "sheet", "frontend/painting", "frontend/controls"},
     "frontend/main": {"ports", "calc", "data", "report", "session", "frontend/painting", "frontend/controls",
                       "frontend/dialogs"},
     "app": {"calc", "data", "session", "check", "frontend/painting", "frontend/controls", "frontend/services", "frontend/main"},
@@ -36,7 +37,7 @@ ROOMS = {
 
 # Rooms that get by with the standard library and, in data, the calls of the system that saving needs.
 CORE = {"ports", "calc", "calc/pass", "spacing", "spacing/sketch", "data", "report", "detail", "session"}
-NO_QT = CORE | {"check"}
+NO_QT = CORE | {"sheet", "check"}
 SYSTEM = {"fcntl.h", "stdlib.h", "sys/file.h", "sys/stat.h", "sys/types.h", "sys/xattr.h", "unistd.h"}
 
 INCLUDE = re.compile(r'^\s*#\s*include\s*([<"])([^>"]+)[>"]')

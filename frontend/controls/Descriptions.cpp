@@ -17,7 +17,7 @@ constexpr const char* setup = "frmSetup";
 
 // Clauses are those of EN 1995-1-1:2004+A1:2008. Ranges are what the program accepts.
 // clang-format off
-constexpr std::array<Description, 94> descriptions{{
+constexpr std::array<Description, 95> descriptions{{
     {main_window, "txtprosjekt", {"Project name", "Prosjektnavn"},
      {"Name of the project, any text.\nStands in the report; has no effect on the results.",
       "Navn på prosjektet, fri tekst.\nStår i utskriften; påvirker ikke resultatene."}},
@@ -214,6 +214,10 @@ constexpr std::array<Description, 94> descriptions{{
     {setup, "Cmd_ok", "OK",
      {"Takes language and partial factors into the project and closes the window.",
       "Tar språk og partialfaktorer inn i prosjektet og lukker vinduet."}},
+
+    {"frmDetailed", "Cmd_sheet", {"Check sheet", "Kontrollark"},
+     {"Writes this calculation as a check sheet of two pages, a file for every browser, and opens it.",
+      "Skriver denne beregningen som et kontrollark på to sider, en fil for enhver nettleser, og åpner det."}},
 
     {"frmDetailed", "Pic_r_a", {"Equation of Rk(a), (8.6 a)", "Ligning for Rk(a), (8.6 a)"}, {}},
     {"frmDetailed", "Pic_r_b", {"Equation of Rk(b), (8.6 b)", "Ligning for Rk(b), (8.6 b)"}, {}},

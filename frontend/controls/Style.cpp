@@ -7,6 +7,7 @@
 #include <QWidget>
 
 #include "frontend/controls/Accessible.h"
+#include "frontend/painting/Icon.h"
 #include "frontend/painting/Texts.h"
 
 namespace tarnvik {
@@ -60,6 +61,14 @@ int TarnvikStyle::styleHint(StyleHint hint, const QStyleOption* option, const QW
         return 0; // no button of the program has one
     }
     return QProxyStyle::styleHint(hint, option, widget, data);
+}
+
+QIcon TarnvikStyle::standardIcon(StandardPixmap icon, const QStyleOption* option, const QWidget* widget) const {
+    if (icon == SP_ToolBarHorizontalExtensionButton) { // every menu bar asks for it, few ever have to show it
+        return Late_icon(
+            [this] { return QProxyStyle::standardIcon(SP_ToolBarHorizontalExtensionButton, nullptr, nullptr); });
+    }
+    return QProxyStyle::standardIcon(icon, option, widget);
 }
 
 void Set_looks(QApplication& application) {

@@ -51,6 +51,10 @@ frmDetailed::frmDetailed(QWidget& window, const Session& session)
     ok->setObjectName(QStringLiteral("Cmd_ok"));
     ok->setDefault(true);
     connect(ok, &QAbstractButton::clicked, this, &QDialog::accept);
+    auto* sheet = new QPushButton{&Ground()};
+    sheet->setObjectName(QStringLiteral("Cmd_sheet"));
+    sheet->setAutoDefault(false); // Enter is OK's
+    connect(sheet, &QAbstractButton::clicked, this, &frmDetailed::Sheet_wanted);
 }
 
 void frmDetailed::Lay_out() {
@@ -78,6 +82,8 @@ void frmDetailed::Lay_out() {
     const QRect ok{(size.width() - Scaled(72, dpi)) / 2, frame->y() + frame->height() + Scaled(below_frame, dpi),
                    Scaled(72, dpi), Scaled(26, dpi)};
     findChild<QPushButton*>(QStringLiteral("Cmd_ok"))->setGeometry(ok);
+    findChild<QPushButton*>(QStringLiteral("Cmd_sheet"))
+        ->setGeometry(ok.right() + 1 + Scaled(8, dpi), ok.y(), Scaled(120, dpi), ok.height());
     findChild<Label*>(QStringLiteral("Lbl_current"))
         ->setGeometry(frame->x(), ok.y(), ok.x() - frame->x() - Scaled(8, dpi), ok.height());
 }
@@ -113,6 +119,14 @@ void frmDetailed::Show_governing() {
     governs->move(static_cast<int>(std::lround(0.9 * area->width())), static_cast<int>(std::lround(top)));
 }
 
+// The program's own: the check sheet of results that are current.
+void frmDetailed::Show_sheet_command() {
+    const ConnectionState& s = session_.State();
+    auto* sheet = findChild<QPushButton*>(QStringLiteral("Cmd_sheet"));
+    sheet->setText(Is_english(s) ? QStringLiteral("Check sheet...") : QStringLiteral("Kontrollark..."));
+    sheet->setEnabled(session_.Results().Current(s));
+}
+
 void frmDetailed::showEvent(QShowEvent* event) {
     Lay_out();
     Painting painting = Paint_detailed(session_.State());
@@ -121,6 +135,7 @@ void frmDetailed::showEvent(QShowEvent* event) {
     Describe(*this, "frmDetailed", Is_english(session_.State()));
     Show_standing();
     Show_governing();
+    Show_sheet_command();
     QDialog::showEvent(event);
 }
 

@@ -16,6 +16,10 @@ public:
     // `window` is the main window: the calculations stand in its middle, as high as it is laid out for.
     frmDetailed(QWidget& window, const Session& session);
 
+signals:
+    // The check sheet of what is shown is asked for.
+    void Sheet_wanted();
+
 protected:
     void showEvent(QShowEvent* event) override;
 
@@ -23,6 +27,7 @@ private:
     void Lay_out();
     void Show_standing();
     void Show_governing();
+    void Show_sheet_command();
 
     QWidget& window_;
     const Session& session_;

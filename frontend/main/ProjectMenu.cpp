@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "calc/RuntimeFault.h"
+#include "frontend/dialogs/File_words.h"
 #include "frontend/painting/Texts.h"
 
 namespace tarnvik {
@@ -16,21 +17,9 @@ namespace {
 
 FileDialogWords Dialog_words(bool english, bool saves) {
     if (english) {
-        return {saves ? "Save project as" : "Open project",
-                saves ? "Save" : "Open",
-                "Cancel",
-                "Look in:",
-                "File name:",
-                "Files of type:",
-                "Tarnvik projects"};
+        return File_words(english, saves, saves ? "Save project as" : "Open project", "Tarnvik projects");
     }
-    return {saves ? "Lagre prosjekt som" : "Åpne prosjekt",
-            saves ? "Lagre" : "Åpne",
-            "Avbryt",
-            "Let i:",
-            "Filnavn:",
-            "Filtype:",
-            "Tarnvik-prosjekter"};
+    return File_words(english, saves, saves ? "Lagre prosjekt som" : "Åpne prosjekt", "Tarnvik-prosjekter");
 }
 
 } // namespace

@@ -17,6 +17,7 @@
 #include "frontend/controls/Scrolling.h"
 #include "frontend/dialogs/ExplanationForm.h"
 #include "frontend/dialogs/Frm_tarn_vik_fak_klass.h"
+#include "frontend/dialogs/Sheet_saving.h"
 #include "frontend/dialogs/frmAbout.h"
 #include "frontend/dialogs/frmDetailed.h"
 #include "frontend/dialogs/frmSetup.h"
@@ -193,6 +194,7 @@ void frmMain::Connect_windows() {
     auto& detail = controls_.Find<QAbstractButton>("Cmd_detail");
     connect(&detail, &QAbstractButton::clicked, this, [this] {
         frmDetailed window{*this, session_};
+        connect(&window, &frmDetailed::Sheet_wanted, this, [this] { Save_sheet(session_, services_); });
         Show_modal(window);
     });
     // Of the window: a caption that is written anew would take a shortcut of the button's own.

@@ -1,10 +1,21 @@
 #include "frontend/painting/EquationPictures.h"
 
+#include <QFile>
+#include <QFont>
+#include <QFontDatabase>
+#include <QGlyphRun>
+#include <QPainter>
+#include <QPointF>
+#include <QRawFont>
 #include <QRectF>
 #include <QString>
 #include <QSvgRenderer>
 
 #include <algorithm>
+#include <cmath>
+#include <span>
+
+#include "frontend/painting/EquationTable.h"
 
 // Keeps the resources of this static library in the program, see Icon.cpp.
 static void Ask_for_resources() {
@@ -15,54 +26,134 @@ namespace tarnvik {
 
 namespace {
 
-// Units of the viewBox for the letter size, in all files: tools/make_equations.mjs.
+// Units of the table and the files for the letter size: tools/make_equations.mjs.
 constexpr double units_per_letter = 1000.0;
 
-QString File_of(std::string_view key) {
+const SetEquation* Find(std::string_view key) {
     if (std::find(equation_keys.begin(), equation_keys.end(), key) == equation_keys.end()) {
-        return {};
+        return nullptr;
     }
+    const auto rows = Set_equations();
     const std::string_view control = key.substr(key.find('/') + 1);
-    return QStringLiteral(":/tarnvik/equations/%1.svg")
-        .arg(QLatin1String(control.data(), static_cast<qsizetype>(control.size())));
+    const auto row = std::find_if(rows.begin(), rows.end(), [&](const auto& one) { return one.name == control; });
+    return row == rows.end() ? nullptr : &*row;
 }
 
-// False for a key without a picture.
-bool Load(std::string_view key, QSvgRenderer& picture) {
+// As it is stored.
+QString File_of(const SetEquation& equation) {
     Ask_for_resources();
-    const QString file = File_of(key);
-    return !file.isEmpty() && picture.load(file);
+    const QLatin1String name{equation.name.data(), static_cast<qsizetype>(equation.name.size())};
+    return QStringLiteral(":/tarnvik/equations/%1.svg").arg(name);
+}
+
+// Where an equation comes to lie; empty without room.
+QRectF Place(const SetEquation& equation, const QRectF& room, double letter, std::optional<double> baseline) {
+    const EquationBox& box = equation.box;
+    const double scale = std::min({letter / units_per_letter, room.width() / box.width, room.height() / box.height});
+    const QSizeF size{box.width * scale, box.height * scale};
+    double top = room.center().y() - size.height() / 2.0;
+    if (baseline) {
+        top = std::max(room.top(), std::min(*baseline + box.y * scale, room.bottom() - size.height()));
+    }
+    return {{room.left(), top}, size};
+}
+
+// The font of a number in the table. It is one of the application's: any other would come into a document as outlines.
+QRawFont Font_of(int number, double size) {
+    static const QStringList families = [] {
+        Ask_for_resources();
+        QStringList names;
+        for (int i = 1;; ++i) {
+            QFile file{QStringLiteral(":/tarnvik/equations/letters-%1.ttf").arg(i)};
+            if (!file.open(QIODevice::ReadOnly)) {
+                return names;
+            }
+            names << QFontDatabase::applicationFontFamilies(QFontDatabase::addApplicationFontFromData(file.readAll()));
+        }
+    }();
+    QFont font{families.at(number)};
+    font.setPixelSize(static_cast<int>(std::lround(size)));
+    font.setHintingPreference(QFont::PreferNoHinting);
+    return QRawFont::fromFont(font);
+}
+
+// Letters of one font and size that follow each other.
+void Print_run(QPainter& painter, std::span<const EquationLetter> letters) {
+    QList<quint32> numbers;
+    QList<QPointF> places;
+    for (const EquationLetter& letter : letters) {
+        numbers << letter.letter;
+        places << QPointF{letter.x, letter.y};
+    }
+    QGlyphRun run;
+    run.setRawFont(Font_of(letters.front().font, letters.front().size));
+    run.setGlyphIndexes(numbers);
+    run.setPositions(places);
+    painter.drawGlyphRun({}, run);
+}
+
+void Print_letters(QPainter& painter, std::span<const EquationLetter> letters) {
+    while (!letters.empty()) {
+        const EquationLetter& first = letters.front();
+        const auto other = std::find_if(letters.begin(), letters.end(), [&](const EquationLetter& letter) {
+            return letter.font != first.font || letter.size != first.size;
+        });
+        Print_run(painter, {letters.begin(), other});
+        letters = {other, letters.end()};
+    }
 }
 
 } // namespace
 
 std::optional<QSizeF> Equation_size(std::string_view key, double letter) {
-    QSvgRenderer picture;
-    if (!Load(key, picture)) {
+    const SetEquation* const equation = Find(key);
+    if (equation == nullptr) {
         return std::nullopt;
     }
-    return picture.viewBoxF().size() * (letter / units_per_letter);
+    return QSizeF{equation->box.width, equation->box.height} * (letter / units_per_letter);
 }
 
-bool Paint_equation(std::string_view key, QPainter& painter, const QRectF& room, double letter,
-                    std::optional<double> baseline) {
-    QSvgRenderer picture;
-    if (!Load(key, picture)) {
+std::string Equation_svg(std::string_view key) {
+    const SetEquation* const equation = Find(key);
+    if (equation == nullptr) {
+        return {};
+    }
+    QFile file{File_of(*equation)};
+    return file.open(QIODevice::ReadOnly) ? file.readAll().toStdString() : std::string{};
+}
+
+bool Paint_equation(std::string_view key, QPainter& painter, const QRectF& room, double letter) {
+    const SetEquation* const equation = Find(key);
+    if (equation == nullptr) {
         return false;
     }
-    const QRectF box = picture.viewBoxF();
-    const double scale =
-        std::min({letter / units_per_letter, room.width() / box.width(), room.height() / box.height()});
+    const QRectF place = Place(*equation, room, letter, std::nullopt);
+    if (place.isValid()) { // QSvgRenderer would take the whole device without
+        QSvgRenderer{File_of(*equation)}.render(&painter, place);
+    }
+    return true;
+}
+
+bool Print_equation(std::string_view key, QPainter& painter, const QRectF& room, double letter, double baseline) {
+    const SetEquation* const equation = Find(key);
+    if (equation == nullptr) {
+        return false;
+    }
+    const QRectF place = Place(*equation, room, letter, baseline);
+    const double scale = place.width() / equation->box.width;
     if (scale <= 0.0) {
-        return true; // no room: QSvgRenderer would take the whole device
+        return true;
     }
-    const QSizeF size = box.size() * scale;
-    double top = room.center().y() - size.height() / 2.0;
-    if (baseline) {
-        // y = 0 of the file is the baseline.
-        top = std::max(room.top(), std::min(*baseline + box.top() * scale, room.bottom() - size.height()));
+    painter.save();
+    painter.translate(place.topLeft());
+    painter.scale(scale, scale);
+    painter.translate(-equation->box.x, -equation->box.y);
+    painter.setPen(Qt::black);
+    Print_letters(painter, equation->letters);
+    for (const EquationBar& bar : equation->bars) {
+        painter.fillRect(QRectF{bar.x, bar.y, bar.width, bar.height}, Qt::black);
     }
-    picture.render(&painter, QRectF{{room.left(), top}, size});
+    painter.restore();
     return true;
 }
 

@@ -2,15 +2,17 @@
 // the detailed calculations and in the report and have a key in each; they are the right-hand sides, "Rk(a) = " stands
 // beside them as text.
 //
-// They are SVG files of frontend/pictures/equations, compiled in, and painted as vectors. The letter size is the em of
-// the mathematical font, what a point size is in text; pictures painted with the same letter size have the same
-// letters.
+// The window paints them as vectors, from the SVG files of frontend/pictures/equations, which are compiled in. On paper
+// they are text in fonts of their own (EquationTable.h), so that a document can be searched for them and stays small.
+// The letter size is the em of the mathematical font, what a point size is in text; equations of the same letter size
+// have the same letters.
 #pragma once
 
 #include <QSizeF>
 
 #include <array>
 #include <optional>
+#include <string>
 #include <string_view>
 
 class QPainter;
@@ -46,11 +48,15 @@ inline constexpr std::array<std::string_view, 22> equation_keys{
 // Size of a picture at a letter size, in the letter size's unit. Nothing for a key that is not among equation_keys.
 std::optional<QSizeF> Equation_size(std::string_view key, double letter);
 
+// The picture as it is stored. Empty for a key that is not among equation_keys.
+std::string Equation_svg(std::string_view key);
+
 // Paints a picture into `room` with letters of that size, in the units of the painter: at the left of the room and, up
-// and down, in its middle or with the baseline of the equation on `baseline`, as near to it as the room allows. Where
-// the room is too small the picture is made smaller, evenly. False, with nothing painted, for a key that is not among
-// equation_keys.
-bool Paint_equation(std::string_view key, QPainter& painter, const QRectF& room, double letter,
-                    std::optional<double> baseline = std::nullopt);
+// and down, in its middle. Where the room is too small the picture is made smaller, evenly. False, with nothing
+// painted, for a key that is not among equation_keys.
+bool Paint_equation(std::string_view key, QPainter& painter, const QRectF& room, double letter);
+
+// The same for paper, with the baseline of the equation on `baseline`, as near to it as the room allows.
+bool Print_equation(std::string_view key, QPainter& painter, const QRectF& room, double letter, double baseline);
 
 } // namespace tarnvik

@@ -8,10 +8,8 @@
 
 #include "frontend/painting/EquationPictures.h"
 #include "frontend/painting/Texts.h"
-#include "spacing/Pictures.h"
 #include "spacing/sketch/Drawing.h"
-#include "spacing/sketch/Sketch.h"
-#include "spacing/sketch/Splitting_picture.h"
+#include "spacing/sketch/Picture.h"
 
 namespace tarnvik {
 
@@ -74,37 +72,6 @@ void Paint(QPainter& painter, const Drawing& drawing) {
     }
 }
 
-constexpr int type_count = 5;
-
-// Pictures of the five Cmd_type buttons.
-std::string Type_key(int type) {
-    return "frmMain/Cmd_type(" + std::to_string(type - 1) + ")";
-}
-
-constexpr std::string_view splitting_figure = "Frm_tarn_vik_txt_tverr_brudd/Pic_tverr_brudd_fig";
-
-std::optional<Drawing> Make(std::string_view key, double width, double height, MemberNames names) {
-    for (std::size_t i = 0; i < sketch_keys.size(); ++i) {
-        if (key == sketch_keys[i].strekk || key == sketch_keys[i].trykk) {
-            return Draw_sketch(static_cast<int>(i), key == sketch_keys[i].trykk, width, height).drawing;
-        }
-    }
-    for (std::size_t i = 0; i < connection_keys.size(); ++i) {
-        if (key == connection_keys[i].key) {
-            return Draw_connection(connection_keys[i].Con_code, width, height, names);
-        }
-    }
-    for (int type = 1; type <= type_count; ++type) {
-        if (key == Type_key(type)) {
-            return Draw_type(type, width, height);
-        }
-    }
-    if (key == splitting_figure) {
-        return Draw_splitting(width, height);
-    }
-    return std::nullopt;
-}
-
 // The last drawings: a window repaints the same few over and over, and choosing the places of a sketch takes some time.
 const std::optional<Drawing>& Compose(std::string_view key, double width, double height, MemberNames names) {
     struct Kept {
@@ -123,7 +90,7 @@ const std::optional<Drawing>& Compose(std::string_view key, double width, double
     if (kept.size() == most) {
         kept.pop_back();
     }
-    kept.push_front({std::string{key}, width, height, names, Make(key, width, height, names)});
+    kept.push_front({std::string{key}, width, height, names, Draw_picture(key, width, height, names)});
     return kept.front().drawing;
 }
 
@@ -163,19 +130,8 @@ QSizeF Picture_size(std::string_view key) {
 }
 
 std::vector<std::string> Picture_keys() {
-    std::vector<std::string> keys;
-    for (const SketchKeys& row : sketch_keys) {
-        keys.emplace_back(row.strekk);
-        keys.emplace_back(row.trykk);
-    }
-    for (const auto& row : connection_keys) {
-        keys.emplace_back(row.key);
-    }
-    for (int type = 1; type <= type_count; ++type) {
-        keys.push_back(Type_key(type));
-    }
+    std::vector<std::string> keys = Drawing_keys();
     keys.insert(keys.end(), equation_keys.begin(), equation_keys.end());
-    keys.emplace_back(splitting_figure);
     return keys;
 }
 

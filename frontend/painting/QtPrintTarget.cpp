@@ -119,7 +119,7 @@ void QtPrintTarget::PaintPicture(std::string_view picture, float x, float y, flo
     if (const auto row = Equation_row(picture)) {
         // Letters as large as those of the text, on its line.
         const double letter = font_size_ / points_per_inch * dots_per_inch_;
-        Paint_equation(picture, painter_, room, letter, Mapped(x, static_cast<float>(*row)).y() + Ascent());
+        Print_equation(picture, painter_, room, letter, Mapped(x, static_cast<float>(*row)).y() + Ascent());
         return;
     }
     constexpr double screen_dots_per_inch = 96.0;

@@ -3,16 +3,18 @@
 #include <QApplication>
 #include <QImage>
 #include <QPainter>
-#include <QSvgGenerator>
 
 #include <cstdio>
 #include <fstream>
 
 #include "calc/RuntimeFault.h"
+#include "frontend/painting/EquationPictures.h"
 #include "frontend/painting/PictureStore.h"
 #include "frontend/painting/QtPrintTarget.h"
 #include "frontend/painting/Texts.h"
 #include "session/SystemClock.h"
+#include "spacing/sketch/Picture.h"
+#include "spacing/sketch/Svg.h"
 
 namespace tarnvik {
 
@@ -25,6 +27,13 @@ constexpr double png_scale = 2.0; // pixels of the PNG for a pixel at 96 dpi
 void Pass_on(QtMsgType /*type*/, const QMessageLogContext& /*context*/, const QString& text) {
     if (!text.startsWith(QLatin1String("QStandardPaths: XDG_RUNTIME_DIR not set"))) {
         std::fprintf(stderr, "%s\n", qPrintable(text));
+    }
+}
+
+void Write_svg(const std::string& file, const std::string& svg) {
+    std::ofstream out{file, std::ios::binary};
+    if (!(out << svg).flush()) {
+        Raise(fault_path_access, where);
     }
 }
 
@@ -68,18 +77,9 @@ int QtRendering::Write_pictures(const std::filesystem::path& folder) {
             Raise(fault_path_access, where);
         }
 
-        QSvgGenerator svg;
-        svg.setFileName(Q(base.string() + ".svg"));
-        svg.setSize(size.toSize());
-        svg.setViewBox(room);
-        svg.setResolution(96);
-        svg.setTitle(Q(key));
-        QPainter painter;
-        if (!painter.begin(&svg)) {
-            Raise(fault_path_access, where);
-        }
-        Paint_picture(key, painter, room);
-        painter.end();
+        const auto drawing = Draw_picture(key, size.width(), size.height());
+        Write_svg(base.string() + ".svg",
+                  drawing ? Svg_of(*drawing, size.width(), size.height(), key) : Equation_svg(key));
         ++written;
     }
     return written;

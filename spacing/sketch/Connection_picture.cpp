@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "spacing/Member_names.h"
 #include "spacing/sketch/Clearness.h"
 #include "spacing/sketch/Painter.h"
 
@@ -21,33 +22,17 @@ constexpr double least_unit = 3.0;
 constexpr double unit_step = 0.25;
 constexpr double names_worth = 0.5; // of the size that the joint could have without them
 
-struct Named {
-    std::string_view english_1, english_2, norwegian_1, norwegian_2;
-};
-
 // By type: as many fasteners as leave the end of an inclined member within the other one.
 constexpr std::array<Lattice, 5> shown_lattices{{{2, 1}, {1, 2}, {2, 2}, {2, 2}, {2, 2}}};
 
-// As the captions of the window, by type. Type 3 has a collar beam in Norwegian.
-constexpr std::array<Named, 5> member_names{{
-    {"Top chord", "Bottom chord", "Overgurt", "Undergurt"},
-    {"Beam", "Column", "Bjelke", "S\u00f8yle"},
-    {"Top chord", "Bottom chord", "Overgurt", "Hanebjelke"},
-    {"Beam", "Column", "Bjelke", "S\u00f8yle"},
-    {"Beam", "Column", "Bjelke", "S\u00f8yle"},
-}};
-
 // The number tells which member of the section it is, the name which one of the window.
 std::array<std::string, 2> Texts_of(char type, MemberNames names) {
-    const Named& named = member_names[static_cast<std::size_t>(type - '1')];
-    switch (names) {
-    case MemberNames::english:
-        return {"1 " + std::string{named.english_1}, "2 " + std::string{named.english_2}};
-    case MemberNames::norwegian:
-        return {"1 " + std::string{named.norwegian_1}, "2 " + std::string{named.norwegian_2}};
-    default:
+    if (names == MemberNames::numbers) {
         return {"1", "2"};
     }
+    const std::array<Words, 2>& members = Member_names_of(type);
+    const bool english = names == MemberNames::english;
+    return {"1 " + std::string{members[0].In(english)}, "2 " + std::string{members[1].In(english)}};
 }
 
 // The joint, its members torn as soon as it is clear how they go on.

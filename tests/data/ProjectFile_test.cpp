@@ -287,11 +287,18 @@ public:
 
 class ProjectFile : public testing::Test {
 protected:
+    // From a stream, and from the bytes of a file that has been read, which makes no difference.
     int Read(std::string_view bytes) {
-        return Fault_of([&] {
+        Project_record same_record = record;
+        const auto same = std::make_unique<ConnectionState>(s);
+        const int same_fault = Fault_of([&] { Load_project_bytes(*same, same_record, bytes); });
+        const int fault = Fault_of([&] {
             Bytes file{bytes};
             Read_project(s, record, file);
         });
+        EXPECT_EQ(same_fault, fault);
+        EXPECT_EQ(Project_bytes(*same, same_record), Project_bytes(s, record));
+        return fault;
     }
     int Open(const fs::path& path) { return Open_project(s, path, box); }
 

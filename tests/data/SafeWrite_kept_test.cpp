@@ -57,6 +57,34 @@ TEST(FileIdentity, follows_the_content_and_nothing_else) {
     EXPECT_NE(Identity_of(folder / "a"), before);
 }
 
+TEST(FileIdentity, of_a_large_file_to_its_last_byte) {
+    const TemporaryFolder folder;
+    for (const std::size_t size : {65535U, 65536U, 65537U, 200000U}) {
+        std::string content(size, 'a');
+        const FileIdentity saved = Save(folder / "a", content).identity; // looked at through the open file
+        EXPECT_EQ(saved, Identity_of(folder / "a")) << size;
+        EXPECT_EQ(saved.size, size);
+        content.back() = 'b';
+        Write_file(folder / "a", content);
+        EXPECT_NE(saved, Identity_of(folder / "a")) << size;
+        fs::remove(folder / "a");
+    }
+}
+
+TEST(FileIdentity, comes_with_the_content) {
+    const TemporaryFolder folder;
+    Write_file(folder / "a", "content");
+    EXPECT_EQ(See_file(folder / "a").content, "content");
+    EXPECT_EQ(See_file(folder / "a").identity, Identity_of(folder / "a"));
+    Write_file(folder / "a", "");
+    EXPECT_EQ(See_file(folder / "a").content, ""); // not the same as none
+    EXPECT_FALSE(See_file(folder / "missing").content);
+    EXPECT_FALSE(See_file("/dev/zero").content);
+    const SeenFile of_the_kernel = See_file("/proc/self/status"); // says that it has no bytes
+    ASSERT_TRUE(of_the_kernel.content);
+    EXPECT_GT(of_the_kernel.content->size(), 100U);
+}
+
 // The digest's published values.
 TEST(FileIdentity, digest_by_its_published_values) {
     EXPECT_EQ(Digest_of(""), 0xcbf29ce484222325U);

@@ -1,5 +1,5 @@
 // The stored equations: there for every key, inside their room, never distorted, painted as vectors, and in the form
-// that Qt's SVG paints in full.
+// that Qt's SVG paints in full; on paper the same in looks, and text.
 #include <gtest/gtest.h>
 
 #include <QBuffer>
@@ -11,6 +11,7 @@
 #include <QXmlStreamReader>
 
 #include <algorithm>
+#include <cstdlib>
 #include <optional>
 #include <set>
 #include <string>
@@ -39,15 +40,33 @@ QRect Painted(const QImage& image) {
     return {QPoint{left, top}, QPoint{right, bottom}};
 }
 
-// A picture painted into `room` of a white sheet that is larger on all sides.
-QRect Painted_in(std::string_view key, const QRectF& room, double letter_size,
-                 std::optional<double> baseline = std::nullopt) {
+// A white sheet that is larger than `room` on all sides, with a picture in it: as the window paints it, or as a
+// document has it with its baseline there.
+QImage Sheet(std::string_view key, const QRectF& room, double letter_size,
+             std::optional<double> baseline = std::nullopt) {
     QImage image{static_cast<int>(room.right()) + 100, static_cast<int>(room.bottom()) + 100, QImage::Format_RGB32};
     image.fill(Qt::white);
     QPainter painter{&image};
     painter.setRenderHint(QPainter::Antialiasing);
-    EXPECT_TRUE(Paint_equation(key, painter, room, letter_size, baseline)) << key;
-    return Painted(image);
+    EXPECT_TRUE(baseline ? Print_equation(key, painter, room, letter_size, *baseline)
+                         : Paint_equation(key, painter, room, letter_size))
+        << key;
+    return image;
+}
+
+QRect Painted_in(std::string_view key, const QRectF& room, double letter_size,
+                 std::optional<double> baseline = std::nullopt) {
+    return Painted(Sheet(key, room, letter_size, baseline));
+}
+
+int Ink(const QImage& image) {
+    int ink = 0;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            ink += 255 - qGray(image.pixel(x, y));
+        }
+    }
+    return ink;
 }
 
 TEST(Equations, every_key_has_its_size) {
@@ -67,6 +86,7 @@ TEST(Equations, nothing_for_another_key) {
     for (const char* key : {"", "Pic_r_a", "frmDetailed/Pic_r_i", "frmDetailed/Pic_r_", "frmDetailed/pic_eff_bolts"}) {
         EXPECT_FALSE(Equation_size(key, letter)) << key;
         EXPECT_FALSE(Paint_equation(key, painter, QRectF{0, 0, 50, 50}, letter)) << key;
+        EXPECT_FALSE(Print_equation(key, painter, QRectF{0, 0, 50, 50}, letter, 25.0)) << key;
     }
     EXPECT_FALSE(Painted(image).isValid());
 }
@@ -88,11 +108,10 @@ TEST(Equations, left_and_in_the_middle_of_the_room) {
 TEST(Equations, on_the_baseline_as_far_as_the_room_allows) {
     const std::string_view key = "frmDetailed/Pic_r_h"; // "0.5" stands on the baseline, "f" goes below it
     const QRectF room{0.0, 20.0, 400.0, 200.0};
-    const int middle = Painted_in(key, room, letter).top();
     const int at_120 = Painted_in(key, room, letter, 120.0).top();
     EXPECT_EQ(Painted_in(key, room, letter, 150.0).top(), at_120 + 30);
     EXPECT_NEAR(at_120, 120.0 - 0.705 * letter, 1.5); // height of "f" over the baseline
-    EXPECT_NEAR(middle, 120.0 - 0.705 * letter + 10.0, 1.5);
+    EXPECT_NEAR(Painted_in(key, room, letter).top(), 120.0 - 0.705 * letter + 10.0, 1.5); // in the middle
     EXPECT_GE(Painted_in(key, room, letter, 0.0).top(), 20);
     EXPECT_LE(Painted_in(key, room, letter, 500.0).bottom(), 220);
 }
@@ -125,10 +144,37 @@ TEST(Equations, nothing_without_room) {
     QPainter painter{&image};
     EXPECT_TRUE(Paint_equation(equation_keys.front(), painter, QRectF{10, 10, 0, 20}, letter));
     EXPECT_TRUE(Paint_equation(equation_keys.front(), painter, QRectF{10, 10, 20, -5}, letter));
+    EXPECT_TRUE(Print_equation(equation_keys.front(), painter, QRectF{10, 10, 0, 20}, letter, 20.0));
+    EXPECT_TRUE(Print_equation(equation_keys.front(), painter, QRectF{10, 10, 20, -5}, letter, 20.0));
     EXPECT_FALSE(Painted(image).isValid());
 }
 
-TEST(Equations, vectors_in_a_pdf) {
+// Letter by letter where the window has it: what the two have not in common is the grey of edges.
+TEST(Equations, the_same_on_paper_as_in_the_window) {
+    for (const std::string_view key : equation_keys) {
+        const QSizeF size = *Equation_size(key, letter);
+        const QRectF room{QPointF{20.0, 30.0}, size};
+        const QImage window = Sheet(key, room, letter);
+        const QImage paper = Sheet(key, room, letter, room.bottom()); // no baseline is as low: at the foot of the room
+        EXPECT_NEAR(Ink(paper), Ink(window), 0.02 * Ink(window)) << key;
+        const QRect there = Painted(window);
+        const QRect here = Painted(paper);
+        EXPECT_NEAR(here.left(), there.left(), 1.0) << key;
+        EXPECT_NEAR(here.top(), there.top(), 1.0) << key;
+        EXPECT_NEAR(here.right(), there.right(), 1.0) << key;
+        EXPECT_NEAR(here.bottom(), there.bottom(), 1.0) << key;
+        int apart = 0;
+        for (int y = 0; y < window.height(); ++y) {
+            for (int x = 0; x < window.width(); ++x) {
+                apart += std::abs(qGray(window.pixel(x, y)) - qGray(paper.pixel(x, y)));
+            }
+        }
+        EXPECT_LT(apart, 0.2 * Ink(window)) << key;
+    }
+}
+
+// Neither outlines nor bitmaps: 22 equations as outlines are 200 kB.
+TEST(Equations, letters_of_fonts_in_a_pdf) {
     QByteArray pdf;
     QBuffer file{&pdf};
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
@@ -139,12 +185,13 @@ TEST(Equations, vectors_in_a_pdf) {
         double y = 0.0;
         for (const std::string_view key : equation_keys) {
             const QSizeF size = *Equation_size(key, 100.0);
-            Paint_equation(key, painter, {{0.0, y}, size}, 100.0);
+            Print_equation(key, painter, {{0.0, y}, size}, 100.0, y + size.height());
             y += size.height();
         }
     }
-    EXPECT_GT(pdf.size(), 10000);
+    EXPECT_EQ(pdf.count("/BaseFont /TarnvikEquations"), 6); // three fonts, each with its descendant
     EXPECT_FALSE(pdf.contains("/Subtype /Image"));
+    EXPECT_LT(pdf.size(), 50'000);
 }
 
 TEST(Equations, only_paths_in_the_files) {

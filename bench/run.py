@@ -135,9 +135,10 @@ def print_threads(programs, measured, wanted):
     for name, arguments, _, _, _ in wanted:
         if "--jobs" in arguments:
             for program in programs:
-                alone, more = measured[name.split(", --jobs")[0], program].wall, measured[name, program].wall
-                if alone and more:
-                    print(f"{name}, {program}: {min(alone) / min(more):.2f} x, by the least wall times")
+                alone, more = measured[name.split(", --jobs")[0], program], measured[name, program]
+                if alone.wall and more.wall:
+                    print(f"{name}, {program}: {min(alone.wall) / min(more.wall):.2f} x as fast, with "
+                          f"{min(more.cpu) / min(alone.cpu):.2f} x the processor time")
 
 
 def run_benchmarks():

@@ -3,12 +3,14 @@
 #include <algorithm>
 #include <condition_variable>
 #include <deque>
+#include <filesystem>
 #include <future>
 #include <istream>
 #include <mutex>
 #include <optional>
 #include <ostream>
 #include <string>
+#include <system_error>
 #include <thread>
 #include <utility>
 #include <vector>
@@ -17,6 +19,8 @@
 #include "check/Csv.h"
 #include "check/Line_blocks.h"
 #include "check/Line_check.h"
+#include "check/Nearest.h"
+#include "check/Progress.h"
 
 namespace tarnvik {
 
@@ -157,39 +161,58 @@ private:
     std::vector<std::thread> threads_;
 };
 
-// Results and complaints as if each line had been written by itself: those of earlier lines stand before a complaint.
-void Write(const Answers& answers, std::ostream& out, std::ostream& err) {
-    std::size_t written = 0;
-    const auto write_to = [&](std::size_t end) {
-        out.write(answers.results.data() + written, static_cast<std::streamsize>(end - written));
-        written = end;
-    };
-    for (const Answers::Complaint& complaint : answers.complaints) {
-        write_to(complaint.at);
-        err << complaint.text;
-    }
-    write_to(answers.results.size());
-}
+class BatchOutput {
+public:
+    BatchOutput(std::ostream& out, std::ostream& err) : out_(out), err_(err), progress_(err, Has_watcher(err)) {}
+    BatchOutput(const BatchOutput&) = delete;
+    BatchOutput& operator=(const BatchOutput&) = delete;
+    ~BatchOutput() { progress_.Clear(); }
 
-int Run_alone(const Options& options, const ConnectionState& fresh, BatchInput& input, std::ostream& out,
-              std::ostream& err) {
+    // Results and complaints as if each line had been written by itself: those of earlier lines stand before a
+    // complaint.
+    void Write(const Answers& answers) {
+        std::size_t written = 0;
+        const auto write_to = [&](std::size_t end) {
+            out_.write(answers.results.data() + written, static_cast<std::streamsize>(end - written));
+            written = end;
+        };
+        for (const Answers::Complaint& complaint : answers.complaints) {
+            write_to(complaint.at);
+            progress_.Clear();
+            err_ << complaint.text;
+        }
+        write_to(answers.results.size());
+        progress_.Add(answers.count);
+    }
+
+    void Flush() { out_.flush(); }
+
+    [[nodiscard]] bool Good() const { return out_.good(); }
+
+private:
+    std::ostream& out_;
+    std::ostream& err_;
+    Progress progress_;
+};
+
+int Run_alone(const Options& options, const ConnectionState& fresh, BatchInput& input, BatchOutput& output) {
     LineCheck check{options, fresh};
     Answers answers;
     Block block;
-    while (out && input.Next(block)) {
+    while (output.Good() && input.Next(block)) {
         answers.results.clear();
         answers.complaints.clear();
+        answers.count = 0;
         Check_block(check, block, input.Table(), answers);
-        Write(answers, out, err);
+        output.Write(answers);
         if (input.Would_wait()) {
-            out.flush();
+            output.Flush();
         }
     }
     return answers.status;
 }
 
-int Run_threads(const Options& options, const ConnectionState& fresh, BatchInput& input, std::ostream& out,
-                std::ostream& err) {
+int Run_threads(const Options& options, const ConnectionState& fresh, BatchInput& input, BatchOutput& output) {
     Crew crew{options, fresh};
     std::deque<std::future<Answers>> ahead;
     int status = exit_holds;
@@ -197,20 +220,20 @@ int Run_threads(const Options& options, const ConnectionState& fresh, BatchInput
         const Answers answers = ahead.front().get();
         ahead.pop_front();
         status = Worse(status, answers.status);
-        Write(answers, out, err);
+        output.Write(answers);
     };
     const std::size_t most = blocks_ahead * static_cast<std::size_t>(options.jobs);
     Block block;
-    while (out && input.Next(block)) {
+    while (output.Good() && input.Next(block)) {
         ahead.push_back(crew.Hand_in(std::exchange(block, {}), input.Table()));
         while (!ahead.empty() && (ahead.size() == most || input.Would_wait())) {
             write_first();
         }
         if (ahead.empty()) {
-            out.flush();
+            output.Flush();
         }
     }
-    while (out && !ahead.empty()) {
+    while (output.Good() && !ahead.empty()) {
         write_first();
     }
     return status;
@@ -221,13 +244,21 @@ int Run_threads(const Options& options, const ConnectionState& fresh, BatchInput
 int Run_batch(const Options& options, const ConnectionState& fresh, std::istream& in, std::ostream& out,
               std::ostream& err) {
     // A row of the printed report may show what an earlier print left in it: such lines have to come one after another.
+    if (options.sheets) {
+        std::error_code error;
+        std::filesystem::create_directories(*options.sheets, error);
+        if (error) {
+            throw UsageError{"--sheets: " + Quoted(*options.sheets) + " cannot be made"};
+        }
+    }
     const bool report = std::find(options.with.begin(), options.with.end(), "report") != options.with.end();
     const auto run = options.jobs == 1 || report ? Run_alone : Run_threads;
     BatchInput input{in, options};
     if (input.Table() != nullptr) {
         out << input.Table()->Heading();
     }
-    const int status = run(options, fresh, input, out, err);
+    BatchOutput output{out, err};
+    const int status = run(options, fresh, input, output);
     if (in.bad()) {
         throw UsageError{"standard input cannot be read"};
     }

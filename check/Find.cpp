@@ -42,8 +42,25 @@ template <class Names> bool Is_among(const Names& names, std::string_view name) 
     return std::find(names.begin(), names.end(), name) != names.end();
 }
 
-std::string Bolt(const Fasteners& fasteners) {
-    return std::string{bolt_table[static_cast<std::size_t>(fasteners.Bolt_index)].caption};
+std::string Bolt(std::int16_t Bolt_index) {
+    return std::string{bolt_table[static_cast<std::size_t>(Bolt_index)].caption};
+}
+
+std::vector<std::string> Other_bolts(const FoundFasteners& found) {
+    std::vector<std::string> names;
+    for (const std::int16_t row : found.other_bolts) {
+        names.push_back(Bolt(row));
+    }
+    return names;
+}
+
+// A text for each with a word between them.
+std::string Joined(std::string text, const std::vector<std::string>& further, std::string_view between) {
+    for (const std::string& one : further) {
+        text += text.empty() ? std::string_view{} : between;
+        text += one;
+    }
+    return text;
 }
 
 int Number(const Fasteners& fasteners) {
@@ -84,7 +101,7 @@ TableRow Line(const FoundFasteners& found) {
         governs += std::string{", mode "} + mode.mode + " (" + std::string{mode.equation} + ")";
     }
     return {std::to_string(Number(f)),
-            Bolt(f),
+            Joined(Bolt(f.Bolt_index), Other_bolts(found), " or "),
             Connector(f),
             found.both_layouts ? "a or b" : std::string(1, f.Bolt_ab),
             spacing,
@@ -116,11 +133,12 @@ std::vector<Reason> Reasons(const SearchResult& result) {
 void Append_found(std::string& json, const FoundFasteners& found) {
     const Fasteners& f = found.fasteners;
     JsonList object{json, '{', '}'};
-    object.Member("bolt", Bolt(f));
+    object.Member("bolt", Bolt(f.Bolt_index));
     object.Member("bolts", Number(f));
     object.Member("connector", Connector(f));
     object.Member("layout", std::string_view{&f.Bolt_ab, 1});
     object.Member("spacing", Spacing(f.Avstand_index));
+    object.Member("other_bolts", Other_bolts(found));
     object.Member("any_layout", found.both_layouts);
     object.Member("last_spacing", Spacing(found.last_spacing));
     object.Member("governs", Governs(found));
@@ -206,17 +224,18 @@ std::string Found_table(const SearchResult& result) {
 }
 
 std::string Found_csv(const SearchResult& result) {
-    TableRow heading{"bolt",       "bolts",        "connector", "layout",  "spacing",
+    TableRow heading{"bolt",       "bolts",        "connector", "layout",  "spacing", "other_bolts",
                      "any_layout", "last_spacing", "governs",   "Rd_bolt", "Rd_for"};
     Append_check_headings(heading);
     std::string csv = Csv_line(heading);
     for (const FoundFasteners& found : result.found) {
         const Fasteners& f = found.fasteners;
-        TableRow row{Bolt(f),
+        TableRow row{Bolt(f.Bolt_index),
                      std::to_string(Number(f)),
                      Connector(f),
                      std::string(1, f.Bolt_ab),
                      Spacing(f.Avstand_index),
+                     Joined({}, Other_bolts(found), " "),
                      found.both_layouts ? "true" : "false",
                      Spacing(found.last_spacing),
                      std::string{Governs(found)},

@@ -1,13 +1,17 @@
 #include "check/Line_check.h"
 
 #include <algorithm>
+#include <filesystem>
 
 #include <nlohmann/json.hpp>
 
+#include "calc/RuntimeFault.h"
 #include "check/Inputs.h"
 #include "check/Nearest.h"
 #include "check/Recording.h"
+#include "check/Sheets.h"
 #include "check/Validation.h"
+#include "data/SafeWrite.h"
 
 namespace tarnvik {
 
@@ -27,7 +31,7 @@ void Complain(Answers& answers, long line, std::string_view id, const std::strin
 
 LineCheck::LineCheck(const Options& options, const ConnectionState& fresh)
     : options_(options), fresh_(fresh), s_(std::make_unique<ConnectionState>(fresh)),
-      record_(Recording(session_, clock_)), judging_(options.checks || options.strict) {}
+      record_(Recording(session_, clock_)), judging_(options.checks || options.strict || options.sheets) {}
 
 void LineCheck::Check(std::string_view lines, long number, Answers& answers) {
     for (std::size_t begin = 0; begin < lines.size(); ++number, ++answers.count) {
@@ -50,7 +54,8 @@ void LineCheck::Check(const std::vector<CsvRow>& rows, const BatchTable& table, 
 
 int LineCheck::Line(std::string_view line, long number, Answers& answers) {
     try {
-        return Answer(line, answers.results);
+        const int status = Answer(line, answers.results);
+        return Worse(status, Write_sheet(number, answers));
     } catch (const UsageError& error) {
         Complain(answers, number, id_, error.text);
         answers.results += "{\"line\":" + std::to_string(number);
@@ -80,7 +85,8 @@ int LineCheck::Answer(std::string_view line, std::string& results) {
 
 int LineCheck::Row(const CsvRow& row, const BatchTable& table, Answers& answers) {
     try {
-        return Answer(row, table, answers.results);
+        const int status = Answer(row, table, answers.results);
+        return Worse(status, Write_sheet(row.line, answers));
     } catch (const UsageError& error) {
         Complain(answers, row.line, table.Id(row), error.text);
         table.Append_error(answers.results, table.Id(row), error.text);
@@ -151,6 +157,26 @@ void LineCheck::Calculate(bool typed) {
     if (judging_) {
         judge_.After_pass(*s_, result_, typed);
     }
+}
+
+// The check sheet of --sheets. What cannot be written makes the batch fail, and is told.
+int LineCheck::Write_sheet(long number, Answers& answers) {
+    if (!options_.sheets) {
+        return exit_holds;
+    }
+    const std::string name = Sheet_name(number, s_->Id);
+    if (!judge_.Judge_results(*s_).not_current.empty()) {
+        Complain(answers, number, s_->Id, name + ": not written, the check was stopped");
+        return exit_stopped;
+    }
+    try {
+        Safe_write(std::filesystem::path{*options_.sheets} / name, Sheet_of(*s_, judge_, clock_.Now()), {OldTail::drop},
+                   "Write_sheet");
+    } catch (const RuntimeFault& fault) {
+        Complain(answers, number, s_->Id, name + ": cannot be written: " + std::string{fault.description});
+        return exit_usage;
+    }
+    return exit_holds;
 }
 
 // A new project; the tables never change in a batch.

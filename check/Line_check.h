@@ -61,6 +61,7 @@ private:
     void Calculate_line(const nlohmann::ordered_json& inputs);
     void Calculate_object(const nlohmann::ordered_json& inputs);
     void Calculate(bool typed);
+    int Write_sheet(long number, Answers& answers);
     void Renew();
 
     const Options& options_;

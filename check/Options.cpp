@@ -81,6 +81,7 @@ opened and checked.
   --save FILE        save the project after the check
   --report FILE.pdf  write the two-page report
   --sheet FILE.html  write the check sheet: one page for a browser, two of A4 printed
+  --sheets DIR       write the check sheet of every line of a batch, by its number and Id
   --verify FILE.html calculate a check sheet again and hold it against that
   --pictures DIR     write every stored picture, as PNG and SVG, under its key
   -h, --help         this text
@@ -223,6 +224,7 @@ constexpr std::array option_rows{
     OptionRow{"--save",     "a file",           [](Options& o, const std::string& value) { o.save = value; }},
     OptionRow{"--report",   "a file",           [](Options& o, const std::string& value) { o.report = value; }},
     OptionRow{"--sheet",    "a file",           [](Options& o, const std::string& value) { o.sheet = value; }},
+    OptionRow{"--sheets",   "a folder",         [](Options& o, const std::string& value) { o.sheets = value; }},
     OptionRow{"--verify",   "a file",           [](Options& o, const std::string& value) { o.verify = value; }},
     OptionRow{"--pictures", "a folder",         [](Options& o, const std::string& value) { o.pictures = value; }},
     OptionRow{"--help",     nullptr,            [](Options& o, const std::string&) { o.help = true; }},
@@ -361,6 +363,12 @@ void Check_combination(const Options& options) {
     const bool several = options.batch || options.projects.size() > 1;
     if (options.save && several) {
         throw UsageError{"--save: expected one project, or none"};
+    }
+    if (options.sheets && !options.batch) {
+        throw UsageError{"--sheets: expected --batch beside it"};
+    }
+    if (options.verify && (several || !options.projects.empty() || options.sheet || options.report || options.save)) {
+        throw UsageError{"--verify: expected no project, no batch and nothing to write"};
     }
     if (options.sheet && several) {
         throw UsageError{"--sheet: expected one project, or none"};

@@ -35,6 +35,7 @@ struct Options {
     std::optional<std::string> loads;               // --loads: the CSV file
     std::optional<std::string> save;
     std::optional<std::string> sheet;    // --sheet: the HTML file
+    std::optional<std::string> sheets;   // --sheets: the folder of a batch's sheets
     std::optional<std::string> verify;   // --verify: such a file
     std::optional<std::string> report;   // --report: the PDF file
     std::optional<std::string> pictures; // --pictures: the folder

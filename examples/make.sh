@@ -3,8 +3,8 @@
 #
 #   examples/make.sh build/release/bin/tarnvik-check FOLDER
 #
-# FOLDER gets every NAME.tnvik with its readable summary (.txt) and its JSON (.json), the results of the batch inputs, and
-# status.txt with the exit status of each.
+# FOLDER gets every NAME.tnvik with its readable summary (.txt) and its JSON (.json), what is asked of the joints by name, the
+# results of the batch inputs and load cases, and status.txt with the exit status of each.
 set -euo pipefail
 
 if [ $# -ne 2 ]; then
@@ -68,12 +68,59 @@ project limtre Nor Prosjekt="Lagerhall på Høyanger" Id="Bjelke – søyle" \
 project small-connector Eng Prosjekt="Roof truss" Id="Connector too small" \
     Kun_bolt=false Med_bulldog=true Bulldog_index=0 dc=48 Bolt_index=3
 
-# A web of two pieces on a chord, by name: tension from 0 to 24 kN, and angles with their diagram.
-web_to_chord=(--lang Eng --joint 1.2 --member1 2x48x198 --member2 48x223 --material C24 --bolt M16x8.8 --bolts 2 --layout b
-    --load medium --service 1)
-keep web-to-chord.csv "${web_to_chord[@]}" --angle 40 --sweep tension=0:24:2
-keep web-to-chord-angles.csv "${web_to_chord[@]}" --set Prosjekt="Roof truss" --set Id="Web to chord, 12 kN" --tension 12 \
-    --sweep angle=0:90:5 --plot web-to-chord.svg
+# joint NAME ARGUMENT...: a joint by name, in the arrays below: asked for with the fasteners that were chosen (.txt), what
+# else holds and fits (.found.txt), and over a range of an input, with the arguments (.csv, .svg).
+joint() {
+    local name=$1
+    shift
+    keep "$name.txt" --lang Eng "${members[@]}" "${force[@]}" "${fasteners[@]}"
+    keep "$name.found.txt" --lang Eng "${members[@]}" "${force[@]}" --find "${find[@]}"
+    keep "$name.csv" --lang Eng "${members[@]}" "${fasteners[@]}" "$@" --plot "$name.svg"
+}
+
+# The top chord of a roof truss between the pieces of the bottom chord.
+members=(--set Prosjekt="Roof truss" --set Id="Heel" --joint 1.3 --member1 48x198 --member2 2x48x223 --material C24 --service 1
+    --angle 22)
+force=(--load short --compression 14)
+find=(--fix bolts=2,layout=b)
+fasteners=(--bolt M12x8.8 --bolts 2 --layout b --spacing 10d)
+joint truss-heel --load short --sweep compression=0:25:1
+
+# Two boards side by side, the force along both.
+members=(--set Prosjekt="Purlins" --set Id="Lap splice, 6 kN" --joint 1.1 --member1 48x148 --member2 48x148 --material C24
+    --service 1 --angle 0)
+force=(--load medium --tension 6)
+find=(--fix spacing=7d)
+fasteners=(--bolt M12x4.6 --bolts 2 --layout b --spacing 7d)
+joint lap-splice "${force[@]}" --sweep spacing=5:20:1
+
+# A web of two pieces on a chord, in double shear; over the angle, and over force and angle.
+members=(--set Prosjekt="Roof truss" --set Id="Web to chord, 12 kN" --joint 1.2 --member1 2x48x198 --member2 48x223
+    --material C24 --service 1)
+force=(--load medium --tension 12 --angle 40)
+find=(--fix bolt=M16x8.8)
+fasteners=(--bolt M16x8.8 --bolts 2 --layout b --spacing 5d)
+joint web-to-chord --load medium --tension 12 --sweep angle=0:90:5
+keep web-to-chord-grid.csv --lang Eng "${members[@]}" "${fasteners[@]}" --load medium --set Id="Web to chord" \
+    --sweep tension=0:24:2 --sweep angle=0:90:10 --plot web-to-chord-grid.svg
+
+# A hanger of two pieces below a beam, over the height of the beam; and under its load cases.
+members=(--set Prosjekt="Canopy" --set Id="Hanger, 7 kN" --joint 2.3 --member1 73x223 --member2 2x48x98 --material C24
+    --service 2 --angle 90)
+force=(--load medium --tension 7)
+find=()
+fasteners=(--bolt M16x4.6 --bolts 1)
+joint hanger "${force[@]}" --sweep Txt_h1=100:300:10
+keep hanger-loads.txt --lang Eng "${members[@]}" "${fasteners[@]}" --loads "$inputs/hanger-loads.csv"
+keep hanger-loads.results.csv --lang Eng "${members[@]}" "${fasteners[@]}" --loads "$inputs/hanger-loads.csv" --csv
+
+# A heavier one between the pieces of a beam, with tooth-plate connectors.
+members=(--set Prosjekt="Canopy" --set Id="Hanger with connectors" --joint 2.2 --member1 2x73x223 --member2 98x148
+    --material C24 --service 2 --angle 90)
+force=(--load medium --tension 18)
+find=(--with-connectors --fix bolts=1)
+fasteners=(--bolt M12x8.8 --bolts 1 --connector D62)
+joint hanger-connectors --load medium --sweep tension=0:25:1
 
 batch force Rd_bolt,uf,Sb1,Sb3,he,Tverr_kontroll
 batch steps Con_code,Case_code,n_bolt,Rd_bolt,Rd_for,uf,Tverr_kontroll

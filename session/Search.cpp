@@ -55,12 +55,22 @@ bool Same_results(const FoundFasteners& one, const FoundFasteners& other) {
            std::equal(a.verdict.checks.begin(), a.verdict.checks.end(), b.verdict.checks.begin(), same);
 }
 
+const BoltRow& Bolt(const FoundFasteners& found) {
+    return bolt_table[static_cast<std::size_t>(found.fasteners.Bolt_index)];
+}
+
+// What tells entries apart, the grade of the bolt left out.
+auto But_for_grade(const FoundFasteners& found) {
+    const Fasteners& f = found.fasteners;
+    return std::tuple{f.Bulldog_index, Bolt(found).d,   f.Ant_index,       found.both_layouts,
+                      f.Bolt_ab,       f.Avstand_index, found.last_spacing};
+}
+
 bool Ranks_before(const FoundFasteners& one, const FoundFasteners& other) {
     const auto rank = [](const FoundFasteners& found) {
         const Fasteners& f = found.fasteners;
-        const BoltRow& bolt = bolt_table[static_cast<std::size_t>(f.Bolt_index)];
-        return std::tuple{f.Ant_index,     bolt.d,    found.Utilisation(), bolt.fuk,
-                          f.Bulldog_index, f.Bolt_ab, f.Avstand_index};
+        return std::tuple{f.Ant_index,     Bolt(found).d, found.Utilisation(), Bolt(found).fuk,
+                          f.Bulldog_index, f.Bolt_ab,     f.Avstand_index};
     };
     return rank(one) < rank(other);
 }
@@ -85,6 +95,7 @@ public:
                 }
             }
         }
+        List_grades_once();
         std::sort(result_.found.begin(), result_.found.end(), Ranks_before);
         return std::move(result_);
     }
@@ -105,6 +116,23 @@ private:
         }
     }
 
+    // A mode of failure in which the bolt stays straight does not ask for its grade.
+    void List_grades_once() {
+        auto& found = result_.found;
+        std::sort(found.begin(), found.end(), [](const auto& one, const auto& other) {
+            return std::pair{But_for_grade(one), Bolt(one).fuk} < std::pair{But_for_grade(other), Bolt(other).fuk};
+        });
+        std::size_t kept = 0;
+        for (std::size_t i = 1; i < found.size(); ++i) {
+            if (But_for_grade(found[i]) == But_for_grade(found[kept]) && Same_results(found[i], found[kept])) {
+                found[kept].other_bolts.push_back(found[i].fasteners.Bolt_index);
+            } else if (++kept != i) {
+                found[kept] = std::move(found[i]);
+            }
+        }
+        found.resize(std::min(found.size(), kept + 1));
+    }
+
     // The arrangement counts for a pass by way of the case alone: whether the catalogue has one of each for the number.
     [[nodiscard]] bool Has_layouts(const Fasteners& f) const {
         const int number = bolt_numbers[static_cast<std::size_t>(f.Ant_index)];
@@ -120,8 +148,8 @@ private:
             return;
         }
         const ConnectionState& s = variants_.State();
-        const FoundFasteners found{fasteners, both_layouts, fasteners.Avstand_index, s.Case_code, s.Rd_bolt,
-                                   s.Rd_for,  *judgement};
+        const FoundFasteners found{fasteners,   {},        both_layouts, fasteners.Avstand_index,
+                                   s.Case_code, s.Rd_bolt, s.Rd_for,     *judgement};
         auto& list = result_.found;
         if (list.size() > begin && list.back().last_spacing == found.last_spacing - 1 &&
             Same_results(list.back(), found)) {

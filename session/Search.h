@@ -40,9 +40,10 @@ struct SearchLimits {
 };
 
 // Fasteners that hold and fit, and what is known of them. Choices that give the same results stand here once, with the
-// least of them: both arrangements, spacings up to a larger one.
+// least of them: grades of a bolt, both arrangements, spacings up to a larger one.
 struct FoundFasteners {
     Fasteners fasteners;
+    std::vector<std::int16_t> other_bolts; // rows of Bolt_index
     bool both_layouts{};
     std::int16_t last_spacing{}; // row of Avstand_index
     FixedText<5> Case_code;

@@ -6,16 +6,16 @@
 # Only missing packages are installed, and where nothing is missing no network is needed. Needs root, or sudo.
 # shellcheck shell=bash disable=SC2034
 
-# Compiler and build system, GoogleTest, JSON (general and fast), CSV, Qt 6 with PrintSupport and Svg, the fonts of the
+# Compiler and build system, GoogleTest, JSON (general and fast), CSV, a checksum, Qt 6 with PrintSupport and Svg, the fonts of the
 # window and the report, and what the tests read a printed report and make regional settings with.
 build_packages=(
-    g++ cmake ninja-build libgtest-dev nlohmann-json3-dev libsimdjson-dev libcsv-dev
+    g++ cmake ninja-build libgtest-dev nlohmann-json3-dev libsimdjson-dev libcsv-dev libxxhash-dev
     qt6-base-dev qt6-svg-dev fonts-liberation poppler-utils python3 locales
 )
 
-# What the tests of saving set access lists and attributes with, and stop a save with, and the validator of the tool's JSON;
-# without them those are skipped.
-test_packages=(acl attr strace python3-jsonschema)
+# What the tests of saving set access lists and attributes with, and stop a save with, the validators of the tool's JSON and of
+# HTML, and the shell besides bash that completes its options; without them those are skipped.
+test_packages=(acl attr strace python3-jsonschema tidy zsh)
 
 # What CI needs beyond that: formatter, linter, fuzzer, benchmarks. Debian 12 has version 14 of the clang tools.
 ci_packages=(

@@ -44,7 +44,9 @@ void Save_sheet(const Session& session, const Services& services) {
         Safe_write(*path, Check_sheet(s, verdict, services.clock.Now(), TARNVIK_VERSION), {OldTail::drop},
                    "Save_sheet");
     } catch (const RuntimeFault& fault) {
-        services.boxes.Show(Fault_text(fault), box_plain);
+        services.boxes.Show(*path + (english ? "\ncannot be written: " : "\nkan ikke skrives: ") +
+                                std::string{fault.description},
+                            box_plain);
         return;
     }
     if (!services.opener.Open_file(*path)) {

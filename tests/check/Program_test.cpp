@@ -1,9 +1,11 @@
 // The program as another process: exit status, streams, memory and what stands beside it.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <csignal>
+#include <cstdlib>
 #include <fcntl.h>
 #include <malloc.h>
 #include <poll.h>
@@ -236,6 +238,49 @@ TEST_P(ProgramJobs, every_line_is_answered_at_once) {
     waitpid(child, &status, 0);
     close(from[0]);
     EXPECT_TRUE(WIFEXITED(status));
+}
+
+// What the terminal of a batch that gets its second line after the first second shows, results in a file.
+std::string Terminal_of_a_long_batch(const fs::path& folder) {
+    const int terminal = posix_openpt(O_RDWR | O_NOCTTY);
+    grantpt(terminal);
+    unlockpt(terminal);
+    const int err = open(ptsname(terminal), O_RDWR | O_NOCTTY);
+    std::array<int, 2> to{};
+    EXPECT_EQ(pipe(to.data()), 0);
+    const pid_t child = fork();
+    if (child == 0) {
+        dup2(to[0], 0);
+        dup2(open((folder / "out").c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0600), 1);
+        dup2(err, 2);
+        close(to[0]);
+        close(to[1]);
+        Exec(program, {"--batch", "--fields", "P"});
+    }
+    close(to[0]);
+    close(err);
+    const auto send = [&to](std::string_view line) {
+        EXPECT_EQ(write(to[1], line.data(), line.size()), static_cast<ssize_t>(line.size()));
+    };
+    send("{\"P\":1}\n");
+    usleep(1500000);
+    send("{\"P\":\"x\"}\n");
+    close(to[1]);
+    waitpid(child, nullptr, 0);
+    std::array<char, 4096> block{};
+    const ssize_t count = read(terminal, block.data(), block.size());
+    close(terminal);
+    return {block.data(), static_cast<std::size_t>(std::max<ssize_t>(count, 0))};
+}
+
+TEST_F(Program, a_terminal_shows_how_far_a_long_batch_is) {
+    const std::string shown = Terminal_of_a_long_batch(folder.Path());
+    const std::size_t line = shown.find("2 lines, ");
+    ASSERT_NE(line, std::string::npos) << shown;
+    EXPECT_EQ(shown.find("tarnvik-check: line 2: P: expected a number, got \"x\"\r\n"), 0U) << shown;
+    EXPECT_EQ(shown.back(), '\r'); // taken off at the end
+    const std::string out = test::Read_file(folder / "out");
+    EXPECT_EQ(std::count(out.begin(), out.end(), '\n'), 2);
 }
 
 // Where what paints lies beside the tool, and where it does not.

@@ -3,7 +3,7 @@
 
 Both ways: whatever the tool prints has to be valid, every name that it knows has to be in the schemas, and nothing else; a batch
 line that the tool takes has to be valid, and one that is not has to be refused. Exit status 77 where the validator is missing."""
-import json, os, random, subprocess, sys
+import json, os, random, subprocess, sys, tempfile
 HERE = os.path.dirname(os.path.abspath(__file__))
 ROOT = os.path.dirname(os.path.dirname(HERE))
 sys.path.insert(0, os.path.join(ROOT, "tests", "reference"))
@@ -60,7 +60,7 @@ input_names = INPUT["definitions"]["inputs"]["properties"]
 defined = OUTPUT["definitions"]
 of_input = Draft7Validator(INPUT)
 of_output = Draft7Validator(OUTPUT)
-of_result, of_error, of_point, of_find = (validator(OUTPUT, name) for name in ("result", "error", "point", "find"))
+of_result, of_error, of_point, of_find, of_loads = (validator(OUTPUT, name) for name in ("result", "error", "point", "find", "loads"))
 
 
 def random_named():
@@ -146,6 +146,13 @@ for options in (["--tension", "5", "--member1", "48x198", "--member2", "48x223"]
     valid(of_find, found, "find %s" % options)
     found["found"] = found["found"][:2]
     others.append(found)
+with tempfile.NamedTemporaryFile("w", suffix=".csv", encoding="utf-8") as table:
+    table.write("name;force;load\nDead;4,5;permanent\nSnow;-11,5;short\n")
+    table.flush()
+    for options in ([], ["--connector", "D75"], ["--set", "Klima=7"], ["--connector", "D50", "--bolt", "M24x8.8"],
+                    ["--set", "Man_he_on=true", "--set", "man_he=900"]):
+        others.append(run("--json", "--loads", table.name, *options)[0])
+        valid(of_loads, others[-1], "loads %s" % options)
 for value in [whole, *others]:
     valid(of_output, value, "the choice of all")
     expect(not of_output.is_valid({**value, "more": 1}) if isinstance(value, dict) else True, "a name that is not known is taken")

@@ -1,10 +1,15 @@
 #!/usr/bin/env python3
 """examples.py TOOL: the examples as TOOL makes them, against those of the tree, byte for byte; and the figures of those of
-the tree against the reference calculation, bit for bit, and against figures by hand. Exit status 0 when all agree.
+the tree against the reference calculation, bit for bit, and against figures by hand. What was found of a joint is compared
+with a search by the reference calculation, which tries every choice. Exit status 0 when all agree.
 """
+import csv
+import decimal
+import itertools
 import json
 import math
 import pathlib
+import re
 import subprocess
 import sys
 import tempfile
@@ -56,7 +61,7 @@ def remade(tool):
     with tempfile.TemporaryDirectory() as folder:
         subprocess.run([EXAMPLES / "make.sh", tool, folder], check=True)
         made = {path.name: path.read_bytes() for path in pathlib.Path(folder).iterdir()}
-    inputs = {"README.md", "make.sh", "force.jsonl", "steps.jsonl"}
+    inputs = {"README.md", "make.sh", "force.jsonl", "steps.jsonl", "hanger-loads.csv"}
     kept = {path.name: path.read_bytes() for path in EXAMPLES.iterdir() if path.name not in inputs}
     return [f"{name}: not as the tool makes it" for name in sorted(made.keys() | kept.keys()) if made.get(name) != kept.get(name)]
 
@@ -79,6 +84,139 @@ def against_reference(what, kept, steps, names):
     return wrong
 
 
+# ---------------------------------------------------------------------------------------------- joints by name
+
+BOLTS = ("M12x4.6", "M16x4.6", "M20x4.6", "M24x4.6", "M12x8.8", "M16x8.8", "M20x8.8", "M24x8.8")
+NUMBERS = (1, 2, 3, 4, 6)
+CONNECTORS = ("D50", "D62", "D75", "D95", "D117")
+
+
+def joint(Con_type, double, b1, h1, b2, h2, **further):
+    """Inputs of the state for a joint of examples/make.sh; `double` is its double member, or 0."""
+    return {"Con_type": Con_type, "enk_1": double != 1, "dob_1": double == 1, "enk_2": double != 2, "dob_2": double == 2,
+            "Standard": False, "Txt_b1": b1, "Txt_h1": h1, "Txt_b2": b2, "Txt_h2": h2, "Mat_index": 5, **further}
+
+
+def fasteners(bolt, number, connector="none", layout="b", spacing=5):
+    chosen = {"Kun_bolt": connector == "none", "Med_bulldog": connector != "none", "Bolt_index": BOLTS.index(bolt),
+              "Ant_index": NUMBERS.index(number), "Bolt_ab": layout, "Avstand_index": spacing - 5}
+    return chosen if connector == "none" else {"Bulldog_index": CONNECTORS.index(connector), **chosen}
+
+
+# Each with its own force, the fasteners that were chosen, and what was looked for.
+HANGER = joint(2, 2, "73", "223", "48", "98", alp=90, Klima=2, Lastvar=3)
+JOINTS = {
+    "truss-heel": (joint(1, 2, "48", "198", "48", "223", alp=22, Klima=1, Lastvar=4, P=14), fasteners("M12x8.8", 2, spacing=10),
+                   {"number": (2,), "layout": "b"}),
+    "lap-splice": (joint(1, 0, "48", "148", "48", "148", alp=0, Klima=1, Lastvar=3, P=-6), fasteners("M12x4.6", 2, spacing=7),
+                   {"spacing": (7,)}),
+    "web-to-chord": (joint(1, 1, "48", "198", "48", "223", alp=40, Klima=1, Lastvar=3, P=-12), fasteners("M16x8.8", 2),
+                     {"bolt": ("M16x8.8",)}),
+    "hanger": ({**HANGER, "P": -7}, fasteners("M16x4.6", 1), {}),
+    "hanger-connectors": (joint(2, 1, "73", "223", "98", "148", alp=90, Klima=2, Lastvar=3, P=-18),
+                          fasteners("M12x8.8", 1, "D62"), {"number": (1,), "connector": ("none", *CONNECTORS)}),
+}
+# Columns of a sweep or of load cases, as inputs of the state.
+LOAD_CLASSES = ("permanent", "long", "medium", "short", "instantaneous")
+SWEPT = {
+    "compression": lambda x: {"P": float(x)},
+    "tension": lambda x: {"P": -float(x)},
+    "angle": lambda x: {"alp": float(x)},
+    "spacing": lambda x: {"Avstand_index": int(x) - 5},
+    "Txt_h1": lambda x: {"Txt_h1": x},
+    "force": lambda x: {"P": float(x)},
+    "load": lambda x: {"Lastvar": LOAD_CLASSES.index(x) + 1},
+}
+
+
+def sums(s):
+    """The distances across each member, those of the fasteners that need more."""
+    connectors = s["Med_bulldog"]
+    return [max(s["Sum_" + m], s["Sum_c" + m]) if connectors else s["Sum_" + m] for m in "ab"]
+
+
+def shown(x, digits):
+    """A float with so many decimals, half away from zero."""
+    step = decimal.Decimal(1).scaleb(-digits)
+    return str(decimal.Decimal(x).quantize(step, decimal.ROUND_HALF_UP))
+
+
+def searched(inputs, bolt=BOLTS, number=NUMBERS, connector=("none",), layout="ab", spacing=range(5, 21)):
+    """What holds and fits by the reference calculation: choice, and what a line shows of it."""
+    found = {}
+    for choice in itertools.product(number, bolt, connector, layout, spacing):
+        n, b, c, ab, a1 = choice
+        result, s = R.run_line({**inputs, **fasteners(b, n, c, ab, a1)})
+        heights = [s["h1"], s["h2"]]
+        if result["end"] == "normal" and s["uf"] <= 1 and s["Tverr_kontroll"] <= 1 and all(x <= h for x, h in zip(sums(s), heights)):
+            found[choice] = (shown(s["uf"], 2), shown(s["Tverr_kontroll"], 2),
+                             *(f"{shown(x, 1)} of {shown(h, 1)}" for x, h in zip(sums(s), heights)))
+    return found
+
+
+def listed(text):
+    """The same from the table that was printed; each choice stands there once."""
+    found, ranks = {}, []
+    for line in text.split("\n\n")[0].splitlines()[1:]:
+        number, bolts, connector, layouts, spacings, *figures = re.split("  +", line.strip())[:9]
+        ends = [int(end.rstrip("d")) for end in spacings.split(" to ")]
+        ranks.append((int(number), int(bolts[1:3]), max(float(figure) for figure in figures[:2])))
+        for choice in itertools.product((int(number),), bolts.split(" or "), (connector,), layouts.split(" or "),
+                                        range(ends[0], ends[-1] + 1)):
+            assert choice not in found, choice
+            found[choice] = tuple(figures)
+    return found, ranks == sorted(ranks)
+
+
+def against_search(name):
+    """What of NAME.found.txt the reference calculation does not find, or finds beside it."""
+    inputs, _, limits = JOINTS[name]
+    text = read(name + ".found.txt")
+    found, in_order = listed(text)
+    wanted = searched(inputs, **limits)
+    wrong = [f"{name}: {choice} {found.get(choice)}, by the reference {wanted.get(choice)}"
+             for choice in sorted(wanted.keys() | found.keys()) if wanted.get(choice) != found.get(choice)]
+    if not in_order or f"\n{len(wanted)} of " not in text:
+        wrong.append(f"{name}: order or number of what was found")
+    return wrong
+
+
+def against_points(what, inputs, rows):
+    """What of the rows of a sweep or of load cases differs from the reference calculation."""
+    wrong = []
+    for row in rows:
+        row = {key: value.replace(",", ".") if key not in ("name", "text") else value for key, value in row.items()}
+        changed = [SWEPT[key](row[key]) for key in row if key in SWEPT]
+        _, s = R.run_line({**inputs, **{key: value for one in changed for key, value in one.items()}})
+        columns = {"utilisation": "uf", "splitting": "Tverr_kontroll", "fits_a": "Sum_a", "fits_b": "Sum_b",
+                   "fits_a_limit": "h1", "fits_b_limit": "h2"}
+        if s["Med_bulldog"]:
+            columns |= {"connectors_fit_a": "Sum_ca", "connectors_fit_b": "Sum_cb"}
+        if "kmod" in row:
+            columns["kmod"] = "kmod"
+        wrong += [f"{what} {row}: {column}, by the reference {s[name]}" for column, name in columns.items()
+                  if R.bits(R.f32(float(row[column]))) != R.bits(s[name])]
+        holds = all(float(row[c]) <= 1 for c in ("utilisation", "splitting")) and all(
+            float(row[c]) <= float(row[c + "_limit"]) for c in columns if c.startswith(("fits", "connectors")) and "limit" not in c)
+        if row["holds"] != ("true" if holds else "false"):
+            wrong.append(f"{what} {row}: verdict")
+    return wrong
+
+
+def against_joints():
+    wrong, points = [], 0
+    for name, (inputs, chosen, _) in JOINTS.items():
+        wrong += against_search(name)
+        sweeps = [name + ".csv"] + (["web-to-chord-grid.csv"] if name == "web-to-chord" else [])
+        for file in sweeps:
+            rows = list(csv.DictReader(read(file).splitlines()))
+            wrong += against_points(file, {**inputs, **chosen}, rows)
+            points += len(rows)
+    rows = list(csv.DictReader(read("hanger-loads.results.csv").splitlines(), delimiter=";"))
+    wrong += against_points("hanger-loads", {**HANGER, **JOINTS["hanger"][1]}, rows)
+    return wrong, points + len(rows)
+
+
 def main():
     wrong = remade(sys.argv[1])
     projects = sorted(path.stem for path in EXAMPLES.glob("*.tnvik"))
@@ -98,9 +236,11 @@ def main():
         got = json.loads(read(project + ".json"))["state"][name]
         if abs(got - figure) > 1e-4 * abs(figure):
             wrong.append(f"{project}: {name} {got}, by hand {figure}")
+    wrong_joints, points = against_joints()
+    wrong += wrong_joints
     for line in wrong:
         print(line)
-    print(f"examples: {len(projects)} projects, {values} values by the reference, {len(figures)} by hand, {len(wrong)} differ")
+    print(f"examples: {len(projects)} projects, {values} values and {points} points by the reference, {len(figures)} by hand, {len(wrong)} differ")
     return 1 if wrong or not projects else 0
 
 

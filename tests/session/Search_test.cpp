@@ -58,12 +58,17 @@ std::set<Choice> Expanded(const SearchResult& result) {
     std::set<Choice> choices;
     for (const FoundFasteners& found : result.found) {
         Fasteners f = found.fasteners;
-        for (const char layout : {'a', 'b'}) {
-            for (f.Avstand_index = found.fasteners.Avstand_index; f.Avstand_index <= found.last_spacing;
-                 ++f.Avstand_index) {
+        std::vector<std::int16_t> bolts = found.other_bolts;
+        bolts.push_back(f.Bolt_index);
+        for (const std::int16_t bolt : bolts) {
+            f.Bolt_index = bolt;
+            for (const char layout : {'a', 'b'}) {
                 f.Bolt_ab = layout;
-                if (found.both_layouts || layout == found.fasteners.Bolt_ab) {
-                    EXPECT_TRUE(choices.insert(Choice_of(f)).second) << "listed twice";
+                for (int row = found.fasteners.Avstand_index; row <= found.last_spacing; ++row) {
+                    f.Avstand_index = static_cast<std::int16_t>(row);
+                    if (found.both_layouts || layout == found.fasteners.Bolt_ab) {
+                        EXPECT_TRUE(choices.insert(Choice_of(f)).second) << "listed twice";
+                    }
                 }
             }
         }
@@ -150,6 +155,30 @@ TEST(Search, lists_choices_without_a_difference_once) {
     limits.Bolt_ab.reset();
     result = Search_fasteners(*s, limits, true);
     EXPECT_EQ(result.found.size(), 15U);
+}
+
+TEST(Search, lists_grades_without_a_difference_once) {
+    const auto s = New_project();
+    Pick_variant(*s, 1, 2);
+    s->P = -1.0F;
+    Free_entry(*s, "48", "198", "20", "198"); // a thin middle member: mode h, (8.7 h), without the bolt's yield moment
+    SearchLimits limits;
+    limits.Ant_index = 0;
+    SearchResult result = Search_fasteners(*s, limits, true);
+    ASSERT_EQ(result.found.size(), 4U); // M12, M16, M20, M24
+    for (const FoundFasteners& found : result.found) {
+        EXPECT_EQ(found.judgement.governing.mode, 'h');
+        EXPECT_EQ(found.other_bolts,
+                  std::vector<std::int16_t>{static_cast<std::int16_t>(found.fasteners.Bolt_index + 4)});
+        EXPECT_LT(found.fasteners.Bolt_index, 4); // the lower grade
+    }
+    // In thick members the bolt yields.
+    Free_entry(*s, "98", "198", "198", "198");
+    result = Search_fasteners(*s, limits, true);
+    ASSERT_EQ(result.found.size(), 8U);
+    for (const FoundFasteners& found : result.found) {
+        EXPECT_TRUE(found.other_bolts.empty());
+    }
 }
 
 TEST(Search, limits_say_what_is_tried) {

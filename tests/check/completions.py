@@ -111,7 +111,7 @@ numbers = [name for name in plain if not isinstance(state[name], (bool, str)) or
 options = set(re.findall(r"--[a-z][a-z0-9-]*|(?<![\w-])-[hV]\b", tool("--help")))
 # What the program answers to a value that it does not know names those that it does.
 lists = re.search("one of (.*), got", subprocess.run([TOOL, "--list", "?"], capture_output=True, encoding="utf-8").stderr).group(1)
-groups = re.search("expected (.*)\n", subprocess.run([TOOL, "--with", "?"], capture_output=True, encoding="utf-8").stderr).group(1)
+groups = re.search("expected (.*), got", subprocess.run([TOOL, "--with", "?"], capture_output=True, encoding="utf-8").stderr).group(1)
 
 with tempfile.TemporaryDirectory() as folder:
     os.symlink(TOOL, os.path.join(folder, "tarnvik-check"))

@@ -21,9 +21,10 @@ function(tarnvik_compressed file folder name component)
   install(FILES ${made}/${name} DESTINATION ${folder} COMPONENT ${component})
 endfunction()
 
-# tarnvik_documents(COMPONENT): licence and changes.
+# tarnvik_documents(COMPONENT): licence, changes, and what a check of the package need not tell.
 function(tarnvik_documents component)
   install(FILES packaging/debian/copyright DESTINATION share/doc/${component} COMPONENT ${component})
+  install(FILES packaging/debian/lintian/${component} DESTINATION share/lintian/overrides COMPONENT ${component})
   tarnvik_compressed(CHANGELOG.md share/doc/${component} changelog.gz ${component})
   tarnvik_compressed(packaging/debian/changelog share/doc/${component} changelog.Debian.gz ${component})
 endfunction()

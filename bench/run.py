@@ -6,9 +6,10 @@
     bench/run.py --against DIR          beside those of DIR, one run of each in turn
     bench/run.py --runs 21 --lines 100000
 
-Prints the machine and a table: the median and the worst wall time of the runs, and the median of the processor
-time. On a machine that others use too, the wall time is an upper bound and the processor time what
-compares. The benchmarks of one process (build/bench/bin/tarnvik-bench*) run at the end where they are built.
+Prints the machine and a table: the least, the median and the worst wall time of the runs, the least processor time, and
+the most memory that a run has held (with the Debian package time). The runs of all rows are taken in turn. On a machine
+that others use too the least time is what compares; a wall time is an upper bound. Below it, what more threads bring.
+The benchmarks of one process (build/bench/bin/tarnvik-bench*) run at the end where they are built, as the README tells.
 """
 import argparse
 import datetime
@@ -17,6 +18,7 @@ import pathlib
 import platform
 import statistics
 import subprocess
+import sys
 import tempfile
 import time
 
@@ -24,6 +26,7 @@ ROOT = pathlib.Path(__file__).resolve().parent.parent
 THREE = ["--batch", "--fields", "uf,Tverr_kontroll,Rd_bolt"]
 HOLDS_OR_NOT = (0, 1, 3)  # all calculated, some not holding or stopped
 PROJECTS = 500
+TIME = "/usr/bin/time"
 
 
 def line(i):
@@ -35,10 +38,10 @@ def line(i):
 
 
 class Measured:
-    """Times of one row: wall and processor seconds."""
+    """Times of one row, wall and processor seconds, and its memory in MB."""
 
     def __init__(self):
-        self.wall, self.cpu = [], []
+        self.wall, self.cpu, self.memory = [], [], None
 
     def add(self, wall, usage):
         self.wall.append(wall)
@@ -58,6 +61,18 @@ def run(command, lines=None, piped=False):
     if feeder:
         feeder.wait()
     return (wall, usage) if process.returncode in HOLDS_OR_NOT else None
+
+
+def memory(command, lines, folder):
+    """The most memory of a run in MB. What the system tells of a process includes the one that started it, here Python,
+    which is larger: one that is small stands in between."""
+    if not pathlib.Path(TIME).exists():
+        return None
+    told = folder / "memory"
+    with open(lines or os.devnull, "rb") as stdin:
+        subprocess.run([TIME, "-q", "-f", "%M", "-o", told, *command], stdin=stdin, stdout=subprocess.DEVNULL,
+                       stderr=subprocess.DEVNULL, check=False)
+    return int(told.read_text().split()[-1]) / 1024
 
 
 def rows(folder, count):
@@ -102,16 +117,37 @@ def machine():
 def print_table(programs, measured, wanted):
     print(machine())
     print()
-    print("| what | programs | wall, median | worst | processor, median |")
-    print("| --- | --- | --- | --- | --- |")
+    print("| what | programs | wall: least | median | worst | processor: least | memory |")
+    print("| --- | --- | --- | --- | --- | --- | --- |")
     for name, _, _, _, items in wanted:
         for program in programs:
             one = measured[name, program]
             if one.wall:
-                print(f"| {name} | {program} | {per_item(statistics.median(one.wall), items)} "
-                      f"| {per_item(max(one.wall), items)} | {per_item(statistics.median(one.cpu), items)} |")
+                times = [min(one.wall), statistics.median(one.wall), max(one.wall), min(one.cpu)]
+                held = f"{one.memory:.1f} MB" if one.memory else ""
+                print(f"| {name} | {program} | {' | '.join(per_item(value, items) for value in times)} | {held} |")
             else:
-                print(f"| {name} | {program} | cannot do it | | |")
+                print(f"| {name} | {program} | cannot do it | | | | |")
+
+
+def print_threads(programs, measured, wanted):
+    """A row with --jobs beside the same one without."""
+    for name, arguments, _, _, _ in wanted:
+        if "--jobs" in arguments:
+            for program in programs:
+                alone, more = measured[name.split(", --jobs")[0], program], measured[name, program]
+                if alone.wall and more.wall:
+                    print(f"{name}, {program}: {min(alone.wall) / min(more.wall):.2f} x as fast, with "
+                          f"{min(more.cpu) / min(alone.cpu):.2f} x the processor time")
+
+
+def run_benchmarks():
+    for bench in sorted((ROOT / "build/bench/bin").glob("tarnvik-bench*")):
+        arguments = [] if bench.name.endswith("window") else ["--benchmark_repetitions=5",
+                                                              "--benchmark_report_aggregates_only=true"]
+        print(f"\n{bench.name}", flush=True)
+        if subprocess.run([bench, *arguments], check=False).returncode != 0:
+            sys.exit(f"{bench.name} failed")
 
 
 def main():
@@ -133,10 +169,13 @@ def main():
                     once = run([str(program / "tarnvik-check"), *arguments], lines, piped)
                     if once:
                         measured[what, program].add(*once)
+        for what, arguments, lines, _, _ in wanted:
+            for program in programs:
+                measured[what, program].memory = memory([str(program / "tarnvik-check"), *arguments], lines, folder)
         print_table(programs, measured, wanted)
-    for bench in sorted((ROOT / "build/bench/bin").glob("tarnvik-bench*")):
-        print(f"\n{bench.name}", flush=True)
-        subprocess.run([bench], check=False)
+        print()
+        print_threads(programs, measured, wanted)
+    run_benchmarks()
 
 
 if __name__ == "__main__":

@@ -243,7 +243,6 @@ int Run_threads(const Options& options, const ConnectionState& fresh, BatchInput
 
 int Run_batch(const Options& options, const ConnectionState& fresh, std::istream& in, std::ostream& out,
               std::ostream& err) {
-    // A row of the printed report may show what an earlier print left in it: such lines have to come one after another.
     if (options.sheets) {
         std::error_code error;
         std::filesystem::create_directories(*options.sheets, error);
@@ -251,6 +250,7 @@ int Run_batch(const Options& options, const ConnectionState& fresh, std::istream
             throw UsageError{"--sheets: " + Quoted(*options.sheets) + " cannot be made"};
         }
     }
+    // A row of the printed report may show what an earlier print left in it: such lines have to come one after another.
     const bool report = std::find(options.with.begin(), options.with.end(), "report") != options.with.end();
     const auto run = options.jobs == 1 || report ? Run_alone : Run_threads;
     BatchInput input{in, options};

@@ -22,7 +22,8 @@ constexpr const char* version_json =
     "\n";
 
 [[noreturn]] void Refuse_painting(const std::string& option) {
-    throw UsageError{option + " needs " + paint_program_name + " beside the program; the build with the window has it"};
+    throw UsageError{option + " needs " + paint_program_name +
+                     " beside the program; the package tarnvik has it, or a build with the window"};
 }
 
 // The exit status of what the options ask for.

@@ -44,22 +44,26 @@ void Take_end(int, void* taken) {
     static_cast<Taken*>(taken)->ended = true;
 }
 
+// What the library takes off the ends of a cell without quotes.
+bool Is_blank(char c) {
+    return c == ' ' || c == '\t';
+}
+
+// The library skips a line of nothing but blanks before a row.
+bool Is_blank_line(std::string_view line) {
+    return line.find_first_not_of(" \t\r\n") == std::string_view::npos;
+}
+
 void Append_cell(std::string& text, const CsvStyle& style, const std::string& cell) {
-    const bool plain = cell.find_first_of("\"\r\n") == std::string::npos &&
-                       cell.find(style.separator) == std::string::npos && !cell.starts_with(' ') &&
-                       !cell.ends_with(' ');
-    if (plain) {
+    const bool padded = !cell.empty() && (Is_blank(cell.front()) || Is_blank(cell.back()));
+    if (!padded && cell.find_first_of("\"\r\n") == std::string::npos &&
+        cell.find(style.separator) == std::string::npos) {
         text += cell;
         return;
     }
     const std::size_t begin = text.size();
     text.resize(begin + 2 * cell.size() + 2);
     text.resize(begin + csv_write2(text.data() + begin, text.size() - begin, cell.data(), cell.size(), '"'));
-}
-
-// The library skips a line of nothing but blanks before a row.
-bool Is_blank(std::string_view line) {
-    return line.find_first_not_of(" \t\r\n") == std::string_view::npos;
 }
 
 } // namespace
@@ -119,7 +123,7 @@ void CsvReader::See_style(std::string_view heading) {
 // The row at the begin of the text. Gives its length, 0 where its end is not there.
 std::size_t CsvReader::Take_row(std::string_view text, bool last, CsvRow& row) {
     const std::size_t first_end = Line_end(text, 0);
-    if (Is_blank(text.substr(0, first_end))) {
+    if (Is_blank_line(text.substr(0, first_end))) {
         return first_end;
     }
     Taken taken{row};

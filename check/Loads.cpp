@@ -5,7 +5,6 @@
 #include <fstream>
 #include <iterator>
 #include <memory>
-#include <string_view>
 
 #include "calc/RuntimeFault.h"
 #include "calc/Text.h"
@@ -258,8 +257,12 @@ void Append_governing(std::string& json, const LoadsResult& result, const Govern
 } // namespace
 
 LoadTable Read_loads(const std::string& path) {
+    return Parse_loads(Bytes(path), path);
+}
+
+LoadTable Parse_loads(std::string_view text, const std::string& path) {
     CsvReader reader;
-    std::vector<CsvRow> rows = reader.Read(Bytes(path));
+    std::vector<CsvRow> rows = reader.Read(text);
     for (CsvRow& row : reader.Finish()) {
         rows.push_back(std::move(row));
     }

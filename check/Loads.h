@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "check/Csv.h"
@@ -21,6 +22,9 @@ struct LoadTable {
 // any order; others are refused, but for those that begin with "#".
 // Errors: throws UsageError with the file and the line.
 LoadTable Read_loads(const std::string& path);
+
+// The same of what the file holds.
+LoadTable Parse_loads(std::string_view text, const std::string& path);
 
 // Errors: throws UsageError where force or load-duration class are given beside --loads, which would count for nothing.
 void Refuse_loads_inputs(const Options& options);

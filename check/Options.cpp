@@ -81,7 +81,7 @@ opened and checked.
   --save FILE        save the project after the check
   --report FILE.pdf  write the two-page report
   --sheet FILE.html  write the check sheet: one page for a browser, two of A4 printed
-  --sheets DIR       write the check sheet of every line of a batch, by its number and Id
+  --sheets DIR       write the check sheets of a batch, each by its number and Id
   --verify FILE.html calculate a check sheet again and hold it against that
   --pictures DIR     write every stored picture, as PNG and SVG, under its key
   -h, --help         this text
@@ -111,8 +111,8 @@ Inputs (NAME): flags take true or false, the others a number or a text.
 
 Exit status: 0 all calculated and no utilisation above 1.0; 1 all calculated, some
 utilisation above 1.0, or with --strict something that does not fit or was not
-checked, or nothing found; 2 wrong usage or unreadable input; 3 a check was stopped or its arithmetic
-failed.
+checked, or nothing found; 2 wrong usage or unreadable input; 3 a check was stopped or
+its arithmetic failed.
 )";
     return text;
 }
@@ -137,9 +137,8 @@ void Add_input(Options& options, const std::string& pair) {
 void Add_groups(Options& options, const std::string& list) {
     for (std::string& group : Split_list(list)) {
         if (std::find(groups.begin(), groups.end(), group) == groups.end()) {
-            throw UsageError{"--with: unknown group " + Quoted(group) +
-                             ", expected screen,tables,pictures,report,detail,explanations" +
-                             Nearest_names(group, {groups.begin(), groups.end()})};
+            throw UsageError{"--with: expected screen,tables,pictures,report,detail,explanations, got " +
+                             Quoted(group) + Nearest_names(group, {groups.begin(), groups.end()})};
         }
         options.with.push_back(std::move(group));
     }
@@ -290,12 +289,46 @@ void Take_option(Options& options, const std::vector<std::string>& arguments, st
     }
 }
 
-// What is not the check of one connection with its result has neither groups nor files of it.
-void Check_alone(const Options& options, const std::string& option) {
-    if (options.batch || options.projects.size() > 1 || options.save || options.report || !options.with.empty() ||
-        options.fields) {
-        throw UsageError{option +
-                         ": expected one project or none, and no --batch, --save, --report, --with or --fields"};
+// What is asked for in place of a check with its result. Of a project, or of nothing but the tables.
+struct TaskRow {
+    std::string_view option;
+    bool (*asked)(const Options& options);
+    bool of_project;
+};
+
+// clang-format off
+constexpr std::array task_rows{
+    TaskRow{"--list",     [](const Options& o) { return o.list.has_value(); },     false},
+    TaskRow{"--batch",    [](const Options& o) { return o.batch; },                false},
+    TaskRow{"--sweep",    [](const Options& o) { return !o.sweep.empty(); },       true},
+    TaskRow{"--find",     [](const Options& o) { return o.find; },                 true},
+    TaskRow{"--loads",    [](const Options& o) { return o.loads.has_value(); },    true},
+    TaskRow{"--pictures", [](const Options& o) { return o.pictures.has_value(); }, false},
+    TaskRow{"--verify",   [](const Options& o) { return o.verify.has_value(); },   false},
+};
+// clang-format on
+
+// One of them, and with it nothing of a result that it does not have.
+void Check_task(const Options& options) {
+    const TaskRow* task = nullptr;
+    for (const TaskRow& row : task_rows) {
+        if (!row.asked(options)) {
+            continue;
+        }
+        if (task != nullptr) {
+            throw UsageError{std::string{task->option} + ", " + std::string{row.option} +
+                             ": expected one of them, got both"};
+        }
+        task = &row;
+    }
+    if (task == nullptr || options.batch) {
+        return;
+    }
+    const bool projects = options.projects.size() > (task->of_project ? 1 : 0);
+    if (projects || options.save || options.report || options.sheet || !options.with.empty() || options.fields) {
+        throw UsageError{std::string{task->option} + ": expected " +
+                         (task->of_project ? "one project or none" : "no project") +
+                         ", and no --save, --report, --sheet, --with or --fields"};
     }
 }
 
@@ -307,19 +340,7 @@ void Check_find(const Options& options) {
         }
         return;
     }
-    Check_alone(options, "--find");
     Refuse_searched_inputs(options);
-}
-
-void Check_loads_option(const Options& options) {
-    if (options.loads) {
-        Check_alone(options, "--loads");
-        Refuse_loads_inputs(options);
-    }
-    const int asked = (options.find ? 1 : 0) + (options.loads ? 1 : 0) + (options.sweep.empty() ? 0 : 1);
-    if (asked > 1) {
-        throw UsageError{"--find, --loads, --sweep: expected one of them"};
-    }
 }
 
 void Check_csv(const Options& options) {
@@ -342,7 +363,6 @@ void Check_sweep(const Options& options) {
     if (options.sweep.size() > 2 || (options.sweep.size() == 2 && options.sweep[0].name == options.sweep[1].name)) {
         throw UsageError{"--sweep: expected one input, or two for a grid"};
     }
-    Check_alone(options, "--sweep");
     if (options.sweep.size() == 2 && options.sweep[0].Count() * options.sweep[1].Count() > most_points) {
         throw UsageError{"--sweep: expected a grid of at most 100000 points"};
     }
@@ -353,12 +373,12 @@ void Check_combination(const Options& options) {
         throw UsageError{"--batch starts every line from a new project: expected no project, got " +
                          Quoted(options.projects.front())};
     }
-    if (options.list && (options.batch || !options.projects.empty())) {
-        throw UsageError{"--list: expected no project and no batch beside it"};
-    }
+    Check_task(options);
     Check_sweep(options);
     Check_find(options);
-    Check_loads_option(options);
+    if (options.loads) {
+        Refuse_loads_inputs(options);
+    }
     Check_csv(options);
     const bool several = options.batch || options.projects.size() > 1;
     if (options.save && several) {
@@ -366,9 +386,6 @@ void Check_combination(const Options& options) {
     }
     if (options.sheets && !options.batch) {
         throw UsageError{"--sheets: expected --batch beside it"};
-    }
-    if (options.verify && (several || !options.projects.empty() || options.sheet || options.report || options.save)) {
-        throw UsageError{"--verify: expected no project, no batch and nothing to write"};
     }
     if (options.sheet && several) {
         throw UsageError{"--sheet: expected one project, or none"};

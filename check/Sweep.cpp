@@ -93,7 +93,7 @@ SweepRange Parse_sweep(const std::string& text) {
     }
     const double steps = (range.to - range.from) / range.step;
     if (!(steps >= 0.0 && steps < static_cast<double>(most_points))) {
-        throw UsageError{"--sweep: expected a step that leads from FROM to TO in less than 100000 steps, got " +
+        throw UsageError{"--sweep: expected a step that leads from FROM to TO in fewer than 100000 steps, got " +
                          Quoted(text)};
     }
     return range;

@@ -197,9 +197,27 @@ private:
         }
         const bool near_right = alp > 0.75 * last_angle;
         svg_ += "<g stroke=\"#fff\" stroke-width=\"3\" paint-order=\"stroke\">";
-        svg_ += Text(X(alp) + (near_right ? -3.0 : 3.0), bottom - 4.0, near_right ? "end" : "start",
+        svg_ += Text(X(alp) + (near_right ? -3.0 : 3.0), Free_height(), near_right ? "end" : "start",
                      "α = " + std::string{Trim(Format(facts_.s.alp, "0.0"))} + "°");
         svg_ += "</g>\n";
+    }
+
+    // For the text of the own angle: as far as possible from the forces there.
+    [[nodiscard]] double Free_height() const {
+        const double demand = std::fabs(static_cast<double>(facts_.s.P));
+        const auto room = [&](double y) {
+            double least = bottom - top;
+            for (const std::optional<double>& force : {own_.bolts, own_.splitting, std::optional{demand}}) {
+                least = force ? std::min(least, std::fabs(Y(*force) - y)) : least;
+            }
+            return least;
+        };
+        constexpr double half_letter = 3.5;
+        double best = bottom - 8.0;
+        for (const double y : {(top + bottom) / 2.0, top + 8.0, bottom - 24.0, top + 24.0}) {
+            best = room(y) > room(best) + 1.0 ? y : best;
+        }
+        return best + half_letter;
     }
 
     const SheetFacts& facts_;

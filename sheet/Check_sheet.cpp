@@ -12,14 +12,17 @@ namespace tarnvik {
 
 namespace {
 
-// Colours have a contrast of 4.5 at least on white, and what they say stands there in words as well.
+// Colours have a contrast of 4.5 at least on white, and what they say stands there in words as well. Fonts for formulas
+// have room for the tallest above and below every line, which some browsers then leave.
 constexpr std::string_view style = R"(
 @page { size: A4; margin: 9mm 10mm; }
 * { box-sizing: border-box; }
 body { font: 8pt/1.25 'Liberation Sans', Arial, Helvetica, sans-serif; color: #000; background: #fff; margin: 0 auto;
   max-width: 190mm; }
-math { font-family: "STIX Two Math", "Cambria Math", "STIX Math", "Latin Modern Math",
-  "DejaVu Math TeX Gyre", math, serif; font-size: 8pt;
+@font-face { font-family: "Formulas"; ascent-override: 80%; descent-override: 25%; line-gap-override: 0%;
+  src: local("STIX Two Math"), local("Cambria Math"), local("STIX Math"), local("STIXMath-Regular"),
+    local("Latin Modern Math"), local("DejaVu Math TeX Gyre"); }
+math { font-family: "Formulas", math, serif; font-size: 8pt;
   math-style: normal; }
 header { display: flex; justify-content: space-between; align-items: baseline; border-bottom: 1.5pt solid #000; }
 h1 { font-size: 13pt; margin: 0 0 1mm; }

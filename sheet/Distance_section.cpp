@@ -20,15 +20,16 @@ namespace {
 // What a distance is, with its symbol in tables 8.4 and 8.8.
 struct Role {
     Words words;
-    std::string_view base, index;
+    std::string_view symbol;
 };
-constexpr Role loaded_edge  {{"loaded edge",                "belastet kant"},             "a", "4,t"};
-constexpr Role unloaded_edge{{"unloaded edge",              "ubelastet kant"},            "a", "4,c"};
-constexpr Role loaded_end   {{"loaded end",                 "belastet ende"},             "a", "3,t"};
-constexpr Role unloaded_end {{"unloaded end",               "ubelastet ende"},            "a", "3,c"};
-constexpr Role across       {{"spacing across the grain",   "avstand på tvers av fibrene"}, "a", "2"};
-constexpr Role along        {{"spacing along the grain",    "avstand langs fibrene"},     "a", "1"};
-constexpr Role along_other  {{"spacing across, along the grain of the other member", "avstand på tvers, langs fibrene i den andre delen"}, "a", "1, a2"};
+constexpr Role loaded_edge  {{"loaded edge",               "belastet kant"},               "a_{4,t}"};
+constexpr Role unloaded_edge{{"unloaded edge",             "ubelastet kant"},              "a_{4,c}"};
+constexpr Role loaded_end   {{"loaded end",                "belastet ende"},               "a_{3,t}"};
+constexpr Role unloaded_end {{"unloaded end",              "ubelastet ende"},              "a_{3,c}"};
+constexpr Role along        {{"spacing along the grain",   "avstand langs fibrene"},       "a_{1}"};
+constexpr Role across       {{"spacing across the grain",  "avstand på tvers av fibrene"}, "a_{2}"};
+// At a right angle, along the grain of the other member.
+constexpr Role along_other  {{"spacing across the grain",  "avstand på tvers av fibrene"}, "a_{2}, a_{1}"};
 // clang-format on
 
 const Role& Role_of(const std::vector<SketchedDistance>& drawn, std::string_view label, int place, int in_across,
@@ -99,8 +100,7 @@ private:
         const std::string_view label = Label_of(distance.distance);
         const bool right_angle = type_ == '4' || type_ == '5';
         const Role& role = Role_of(drawn_, label, place, in.across, in.across + in.along, right_angle);
-        std::vector<Cell> cells{label, role.words.In(facts_.english),
-                                Cell{Markup{std::string{role.base} + "<sub>" + std::string{role.index} + "</sub>"}}};
+        std::vector<Cell> cells{label, role.words.In(facts_.english), Cell{Indexed(role.symbol)}};
         const auto add = [&](std::string_view formula, const std::optional<float>& value) {
             cells.push_back(formula.empty() ? Cell{"–"} : Cell{Markup{Formula{With_spacing(formula)}.Symbols()}});
             cells.push_back({value ? Shown(*value) : std::string{"–"}, "n"});

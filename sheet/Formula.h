@@ -2,7 +2,8 @@
 // the numbers put in, and its value, so that none of the three can differ from the others.
 //
 // The notation has numbers with ".", the names of sheet/Symbols.h, + - * / ^ ( ) with their usual order, ":" for a
-// division that is written on the line, and the functions sqrt, sin, cos (degrees), max and min, whose arguments ";" separates.
+// division that is written on the line, and the functions sqrt, sin, cos (degrees), max and min, whose arguments ";"
+// separates.
 #pragma once
 
 #include <memory>

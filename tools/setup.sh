@@ -22,6 +22,12 @@ ci_packages=(
     git clang clang-format-14 clang-tidy-14 libclang-rt-14-dev libbenchmark-dev
 )
 
+# What tools/make_manual.py sets the manual with; the PDF is committed, so that nothing else needs them.
+manual_packages=(
+    pandoc texlive-luatex texlive-latex-recommended texlive-latex-extra fonts-texgyre fonts-texgyre-math fonts-dejavu-core
+    librsvg2-bin
+)
+
 missing_packages() {
     local package
     for package in "$@"; do

@@ -1,3 +1,4 @@
+# shellcheck shell=bash
 # bash completion of tarnvik-check. Names and values come from the program itself, so that they are those of its tables.
 
 # The first column of a list of the program, a line each.
@@ -49,8 +50,8 @@ _tarnvik_check_values() {
 
 _tarnvik_check() {
     local options="--angle --batch --bolt --bolts --compression --connector --csv --data --fields --find --fix --help --joint --jobs
-        --json --lang --layout --list --load --loads --material --member1 --member2 --pictures --plot --report --save --service --set
-        --spacing --strict --sweep --tension --version --with --with-connectors -V -h"
+        --json --lang --layout --list --load --loads --material --member1 --member2 --pictures --plot --report --save --service
+        --set --sheet --sheets --spacing --strict --sweep --tension --verify --version --with --with-connectors -V -h"
     local command=${COMP_WORDS[0]} current=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD - 1]} head='' match
     COMPREPLY=()
     if [[ $current == = ]]; then # bash takes "=" for a word of its own
@@ -59,11 +60,11 @@ _tarnvik_check() {
         previous=${COMP_WORDS[COMP_CWORD - 2]}
     fi
     case $previous in
-    --data | --pictures)
+    --data | --pictures | --sheets)
         mapfile -t COMPREPLY < <(compgen -d -- "$current")
         return
         ;;
-    --save | --report | --plot | --loads)
+    --save | --report | --plot | --loads | --sheet | --verify)
         mapfile -t COMPREPLY < <(compgen -f -- "$current")
         return
         ;;

@@ -161,8 +161,10 @@ TEST(Check, pictures_and_the_report_need_the_build_with_the_window) {
         const ToolRun run = Tool({option, (folder / "a").string()});
         EXPECT_EQ(run.status, exit_usage);
         EXPECT_EQ(run.out, "");
-        EXPECT_EQ(run.err, "tarnvik-check: " + std::string{option} +
-                               " needs tarnvik-paint beside the program; the build with the window has it\n");
+        EXPECT_EQ(
+            run.err,
+            "tarnvik-check: " + std::string{option} +
+                " needs tarnvik-paint beside the program; the package tarnvik has it, or a build with the window\n");
     }
     EXPECT_EQ(folder.Files(), 0U);
 }

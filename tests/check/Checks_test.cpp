@@ -195,5 +195,24 @@ TEST(Checks, a_value_is_shown_in_full_where_rounding_would_hide_that_it_fails) {
     EXPECT_NE(summary.find("120.04 > 120.0 mm"), std::string::npos);
 }
 
+// The window opens the same project with splitting unchecked until the box of he is left; here there is no box to
+// leave.
+TEST(Checks, a_typed_he_that_comes_with_a_project_is_checked_at_once) {
+    const test::TemporaryFolder folder;
+    const std::string project = (folder / "he.tnvik").string();
+    const std::vector<std::string> inputs{"--member1", "98x398", "--member2", "98x398", "--compression", "2"};
+    std::vector<std::string> typed = inputs;
+    typed.insert(typed.end(), {"--set", "Man_he_on=true", "--set", "man_he=180.4", "--save", project, "--json"});
+    const Json saved = Tool(typed).Object();
+    const Json opened = Tool({project, "--json"}).Object();
+    EXPECT_EQ(opened["checks"], saved["checks"]);
+    EXPECT_EQ(opened["checks"]["splitting"]["current"], true);
+    EXPECT_TRUE(opened["checks"]["splitting"]["holds"].is_boolean());
+    // The state is that of a pass, which leaves a typed he out.
+    EXPECT_EQ(opened["state"]["man_he"].get<float>(), 180.4F);
+    EXPECT_EQ(opened["state"]["he"], 0);
+    EXPECT_EQ(opened["state"]["Tverr_kontroll"], 0);
+}
+
 } // namespace
 } // namespace tarnvik

@@ -165,7 +165,7 @@ TEST(Csv, text_that_is_not_utf8) {
 }
 
 TEST(Csv, written_cells_read_back) {
-    const Cells cells{"K1", "", "a;b", "a,b", "say \"x\"", "two\r\nlines", " blank ", "8,5", "Bj\u00F8rn"};
+    const Cells cells{"K1", "", "a;b", "a,b", "say \"x\"", "two\r\nlines", " blank ", "\ttab", "8,5", "Bj\u00F8rn"};
     for (const char separator : {';', ','}) {
         const CsvStyle style{separator, false, true};
         const std::string heading(cells.size() - 1, separator);

@@ -76,7 +76,7 @@ TEST(Lists, refusals) {
               "tarnvik-check: --list: expected one of bolts,connectors,materials,profiles,joints,cases,inputs, got "
               "\"bolt\"\n");
     EXPECT_EQ(Tool({"--list", "bolts", "a.tnvik"}).err,
-              "tarnvik-check: --list: expected no project and no batch beside it\n");
+              "tarnvik-check: --list: expected no project, and no --save, --report, --sheet, --with or --fields\n");
     EXPECT_EQ(Tool({"--list", "bolts", "--batch"}).status, 2);
 }
 

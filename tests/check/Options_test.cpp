@@ -88,10 +88,10 @@ TEST(Options, wrong_usage_names_what_was_wrong_and_what_was_expected) {
         {"result as input",     {"--set", "uf=1"},                {"\"uf\"", "input"}},
         {"unknown group",       {"--with", "scren"},              {"--with", "scren", "expected screen"}},
         {"unknown field",       {"--fields", "P,Pp"},             {"--fields", "\"Pp\""}},
-        {"value too many",      {"--json=1"},                     {"--json"}},
-        {"batch and project",   {"--batch", "a.tnvik"},           {"--batch", "a.tnvik"}},
-        {"save a batch",        {"--batch", "--save", "f"},       {"--save"}},
-        {"save two projects",   {"--save", "f", "a", "b"},        {"--save"}},
+        {"value too many",      {"--json=1"},                     {"--json takes no value\n"}},
+        {"batch and project",   {"--batch", "a.tnvik"},           {"--batch starts every line from a new project: expected no project, got \"a.tnvik\"\n"}},
+        {"save a batch",        {"--batch", "--save", "f"},       {"--save: expected one project, or none\n"}},
+        {"save two projects",   {"--save", "f", "a", "b"},        {"--save: expected one project, or none\n"}},
     };
     // clang-format on
     for (const Row& row : rows) {
@@ -122,6 +122,13 @@ TEST(Options, help_and_version_go_to_standard_output) {
               "{\"name\":\"tarnvik-check\",\"version\":\"1.2.0\",\"standard\":\"EN 1995-1-1:2004+A1:2008\"}\n");
 }
 
+TEST(Options, the_help_fits_a_terminal) {
+    std::istringstream lines{Help_text()};
+    for (std::string line; std::getline(lines, line);) {
+        EXPECT_LE(line.size(), 88U) << line;
+    }
+}
+
 TEST(Options, the_inputs_are_those_that_a_user_can_choose) {
     const Arguments expected{
         "Lang",   "Prosjekt",  "Id",      "Lastvar",       "Klima",       "gm_T",        "gm_L",
@@ -142,6 +149,36 @@ TEST(Options, the_inputs_are_those_that_a_user_can_choose) {
 }
 
 // Words that begin with two dashes.
+TEST(Options, one_task_at_a_time) {
+    const std::vector<Arguments> tasks{{"--list", "bolts"},  {"--batch"},         {"--sweep", "P=0:1:1"}, {"--find"},
+                                       {"--loads", "f.csv"}, {"--pictures", "."}, {"--verify", "f.html"}};
+    for (std::size_t i = 0; i < tasks.size(); ++i) {
+        for (std::size_t k = i + 1; k < tasks.size(); ++k) {
+            Arguments both = tasks[k];
+            both.insert(both.end(), tasks[i].begin(), tasks[i].end());
+            const test::ToolRun run = Tool(both);
+            EXPECT_EQ(run.err,
+                      "tarnvik-check: " + tasks[i][0] + ", " + tasks[k][0] + ": expected one of them, got both\n");
+            EXPECT_EQ(run.status, 2);
+        }
+        if (tasks[i][0] == "--batch") {
+            continue;
+        }
+        // None of them has the result of a check.
+        for (const Arguments& result :
+             {Arguments{"--save", "a.tnvik"}, Arguments{"--report", "a.pdf"}, Arguments{"--sheet", "a.html"},
+              Arguments{"--with", "screen"}, Arguments{"--fields", "uf"}, Arguments{"a.tnvik", "b.tnvik"}}) {
+            Arguments arguments = tasks[i];
+            arguments.insert(arguments.end(), result.begin(), result.end());
+            EXPECT_TRUE(
+                Tool(arguments).err.ends_with(" project, and no --save, --report, --sheet, --with or --fields\n") ||
+                Tool(arguments).err.ends_with(
+                    " project or none, and no --save, --report, --sheet, --with or --fields\n"))
+                << Tool(arguments).err;
+        }
+    }
+}
+
 Arguments Options_in(const std::string& text) {
     Arguments found;
     for (std::size_t at = text.find("--"); at != std::string::npos; at = text.find("--", at + 2)) {

@@ -128,7 +128,8 @@ TEST(ReportFile, a_file_that_cannot_be_written_is_told) {
 TEST(ReportFile, wrong_usage) {
     RecordingRendering rendering;
     EXPECT_EQ(Tool_with(nullptr, {"--report", "out.pdf"}).err,
-              "tarnvik-check: --report needs tarnvik-paint beside the program; the build with the window has it\n");
+              "tarnvik-check: --report needs tarnvik-paint beside the program; the package tarnvik has it, or a build "
+              "with the window\n");
     EXPECT_EQ(Tool_with(nullptr, {"--report", "out.pdf"}).status, exit_usage);
     EXPECT_EQ(Tool_with(&rendering, {"--report"}).err, "tarnvik-check: --report: expected a file\n");
     EXPECT_EQ(Tool_with(&rendering, {"--report", "out.pdf", "--batch"}, "{}\n").err,

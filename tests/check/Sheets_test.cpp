@@ -142,10 +142,12 @@ TEST_F(Sheets, a_folder_that_is_not_there_is_told) {
 
 TEST_F(Sheets, options_that_do_not_go_together_are_refused) {
     const auto error = [](const std::vector<std::string>& options) { return Tool(options).err; };
+    EXPECT_EQ(error({"--verify", "a", "--batch"}),
+              "tarnvik-check: --batch, --verify: expected one of them, got both\n");
     EXPECT_EQ(error({"--batch", "--sheet", "a"}), "tarnvik-check: --sheet: expected one project, or none\n");
     EXPECT_EQ(error({"--sheets", "a"}), "tarnvik-check: --sheets: expected --batch beside it\n");
-    EXPECT_EQ(error({"--verify", "a", "--batch"}),
-              "tarnvik-check: --verify: expected no project, no batch and nothing to write\n");
+    EXPECT_EQ(error({"--verify", "a", "--save", "b"}),
+              "tarnvik-check: --verify: expected no project, and no --save, --report, --sheet, --with or --fields\n");
 }
 
 TEST_F(Sheets, every_line_of_a_batch_has_its_own) {

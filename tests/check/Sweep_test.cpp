@@ -125,12 +125,12 @@ TEST(Sweep, refusals) {
         {{"--sweep", "P=1:2:1:1"},          "--sweep: expected NAME=FROM:TO:STEP, got \"P=1:2:1:1\""},
         {{"--sweep", "bolt=1:2:1"},         "--sweep: expected an input that is a number, got \"bolt\"; nearest: bolts"},
         {{"--sweep", "uf=1:2:1"},           "--sweep: expected an input that is a number, got \"uf\""},
-        {{"--sweep", "P=1:2:0"},            "--sweep: expected a step that leads from FROM to TO in less than 100000 steps, got \"P=1:2:0\""},
-        {{"--sweep", "P=1:2:-1"},           "--sweep: expected a step that leads from FROM to TO in less than 100000 steps, got \"P=1:2:-1\""},
-        {{"--sweep", "P=0:1:1e-9"},         "--sweep: expected a step that leads from FROM to TO in less than 100000 steps, got \"P=0:1:1e-9\""},
+        {{"--sweep", "P=1:2:0"},            "--sweep: expected a step that leads from FROM to TO in fewer than 100000 steps, got \"P=1:2:0\""},
+        {{"--sweep", "P=1:2:-1"},           "--sweep: expected a step that leads from FROM to TO in fewer than 100000 steps, got \"P=1:2:-1\""},
+        {{"--sweep", "P=0:1:1e-9"},         "--sweep: expected a step that leads from FROM to TO in fewer than 100000 steps, got \"P=0:1:1e-9\""},
         {{"--sweep", "P=0:1:1", "--sweep", "P=0:1:1"}, "--sweep: expected one input, or two for a grid"},
         {{"--sweep", "P=0:1:0.001", "--sweep", "alp=0:90:0.1"}, "--sweep: expected a grid of at most 100000 points"},
-        {{"--sweep", "P=0:1:1", "--batch"}, "--sweep: expected one project or none, and no --batch, --save, --report, --with or --fields"},
+        {{"--sweep", "P=0:1:1", "--batch"}, "--batch, --sweep: expected one of them, got both"},
         {{"--plot", "f.svg"},               "--plot: expected --sweep beside it"},
     };
     // clang-format on

@@ -205,7 +205,7 @@ TEST(Validation, names_that_are_nearly_right_and_long_ones) {
         {{"--set", "P=" + long_text}, "P: expected a number, got \"" + cut + "\""},
         {{"--lang", long_text}, "--lang: expected Eng or Nor, got \"" + cut + "\""},
         {{"--with", "scren"},
-         "--with: unknown group \"scren\", expected screen,tables,pictures,report,detail,explanations; nearest: "
+         "--with: expected screen,tables,pictures,report,detail,explanations, got \"scren\"; nearest: "
          "screen"},
         {{"--fields", "Tver_kontroll"}, "--fields: \"Tver_kontroll\" is no name of the state; nearest: Tverr_kontroll"},
         {{"--fields", "check"}, "--fields: \"check\" is no name of the state; nearest: checks"},

@@ -111,11 +111,12 @@ numbers = [name for name in plain if not isinstance(state[name], (bool, str)) or
 options = set(re.findall(r"--[a-z][a-z0-9-]*|(?<![\w-])-[hV]\b", tool("--help")))
 # What the program answers to a value that it does not know names those that it does.
 lists = re.search("one of (.*), got", subprocess.run([TOOL, "--list", "?"], capture_output=True, encoding="utf-8").stderr).group(1)
-groups = re.search("expected (.*)\n", subprocess.run([TOOL, "--with", "?"], capture_output=True, encoding="utf-8").stderr).group(1)
+groups = re.search("expected (.*), got", subprocess.run([TOOL, "--with", "?"], capture_output=True, encoding="utf-8").stderr).group(1)
 
 with tempfile.TemporaryDirectory() as folder:
     os.symlink(TOOL, os.path.join(folder, "tarnvik-check"))
-    open(os.path.join(folder, "heel.tnvik"), "w", encoding="utf-8").close()
+    for name in ("heel.tnvik", "loads.csv"):
+        open(os.path.join(folder, name), "w", encoding="utf-8").close()
     shell = Bash(folder) if SHELL == "bash" else Zsh(folder)
     expect(["--"], options - {"-h", "-V"}, only=SHELL == "bash")
     if SHELL == "bash":
@@ -146,6 +147,11 @@ with tempfile.TemporaryDirectory() as folder:
     expect(["--fix", ""], ["bolt", "bolts", "connector", "layout", "spacing"])
     expect(["--fix", "bolts="], ["1", "2", "3", "4", "6"])
     expect(["he"], ["heel.tnvik"])
+    expect(["--save", "he"], ["heel.tnvik"])
+    expect(["--loads", ""], ["loads.csv"], only=False)
+    os.mkdir(os.path.join(folder, "sheets"))
+    expect(["--sheets", ""], ["sheets"], only=SHELL == "bash")
+    expect(["--data", "sh"], ["sheets"])
 
 print("\n".join(failures) or "%s: all names and values offered" % SHELL)
 sys.exit(1 if failures else 0)

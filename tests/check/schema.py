@@ -60,7 +60,8 @@ input_names = INPUT["definitions"]["inputs"]["properties"]
 defined = OUTPUT["definitions"]
 of_input = Draft7Validator(INPUT)
 of_output = Draft7Validator(OUTPUT)
-of_result, of_error, of_point, of_find, of_loads = (validator(OUTPUT, name) for name in ("result", "error", "point", "find", "loads"))
+of_result, of_error, of_point, of_find, of_loads = (validator(OUTPUT, name)
+                                                    for name in ("result", "error", "point", "find", "loads"))
 
 
 def random_named():
@@ -107,8 +108,8 @@ for name in rng.sample(sorted(whole["state"]), 5):  # the validator itself sees 
 
 # Results of random lines: all values, a few by name, all groups
 lines = [random_line() for _ in range(N)]
-few = N * 8 // 10
-all_groups = max(1, N // 100)
+few = N * 93 // 100
+all_groups = max(1, N // 200)
 plans = [(lines[:few], ["--fields", ",".join(["checks", "Id"] + rng.sample(sorted(whole["state"]), 8))]),
          (lines[few:-all_groups], []), (lines[-all_groups:], ["--with", GROUPS]),
          ([{}], ["--fields", "Mat,Prof,Setup"])]

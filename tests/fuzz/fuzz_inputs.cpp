@@ -1,4 +1,5 @@
-// Lines of a batch: JSON that is refused with a reason, or a pass whose result is JSON.
+// Lines of a batch: JSON that is refused with a reason, or a pass whose result is JSON; and the same text as the value
+// of an option.
 #include <string>
 
 #include <nlohmann/json.hpp>
@@ -6,15 +7,50 @@
 #include "Fuzz.h"
 #include "calc/pass/Main_beregn.h"
 #include "check/Checks.h"
+#include "check/Find.h"
 #include "check/Inputs.h"
 #include "check/Json.h"
 #include "check/Named_inputs.h"
+#include "check/Plot.h"
 #include "check/Summary.h"
 #include "check/Sweep.h"
 #include "check/Validation.h"
 
+namespace {
+
+using namespace tarnvik;
+
+// Whatever the joint: every choice is counted once, and what was found is told.
+void Search(const ConnectionState& joint, const SearchLimits& limits) {
+    const SearchResult result = Search_fasteners(joint, limits, true);
+    FUZZ_CHECK(result.choices == limits.Count());
+    FUZZ_CHECK(result.holding >= result.found.size() && result.holding + result.Stopped_choices() <= result.choices);
+    FUZZ_CHECK(nlohmann::json::parse(Found_json(result, {})).at("found").size() == result.found.size());
+    FUZZ_CHECK(!Found_table(result).empty() && !Found_csv(result).empty());
+}
+
+// A diagram has a place for every point, whatever its figures.
+void Plot(const SweepRange& range, const Judgement& judgement) {
+    constexpr std::size_t most_points = 50;
+    if (range.Count() > most_points) {
+        return;
+    }
+    std::vector<SweepPoint> points;
+    std::vector<SweepPoint> grid;
+    for (std::size_t i = 0; i < range.Count(); ++i) {
+        points.push_back({{range.Value(i)}, {}, judgement});
+        grid.push_back({{range.Value(i), 1.0}, {}, judgement});
+    }
+    for (const std::string& svg :
+         {Plot_sweep(range, points, "<&>"), Plot_grid({range, {"bolts", 1.0, 1.0, 1.0}}, grid, "<&>")}) {
+        FUZZ_CHECK(svg.ends_with("</svg>\n"));
+        FUZZ_CHECK(svg.find("nan") == std::string::npos && svg.find("inf\"") == std::string::npos);
+    }
+}
+
+} // namespace
+
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    using namespace tarnvik;
     using Json = nlohmann::ordered_json;
     static const auto s = std::make_unique<ConnectionState>();
     static_cast<ConnectionValues&>(*s) = fuzz::New_project();
@@ -46,6 +82,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
             }
             FUZZ_CHECK(!Summary({}, *s, result, box).empty());
             FUZZ_CHECK(Checks_summary(judgement).empty() == !judgement.not_current.empty());
+            if (size % 8 == 0) {
+                SearchLimits limits = Search_limits({{"bolts", "3"}, {"spacing", "9d"}}, true);
+                limits.Bolt_index = static_cast<std::int16_t>(size / 8 % bolt_table.size());
+                Search(*s, limits);
+            }
             if (size % 16 == 0) { // a report is long
                 options.with = {"tables", "pictures", "detail", "explanations", "report"};
                 json.clear();
@@ -66,6 +107,20 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
             try {
                 const SweepRange range = Parse_sweep(pair);
                 FUZZ_CHECK(range.Count() > 0 && !range.Text(range.Count() - 1).empty());
+                Standing results;
+                Judge judge{results};
+                MessageLog box;
+                results.Note_pass(*s, Run_pass(*s, nullptr, box));
+                Plot(range, judge.Judge_results(*s));
+            } catch (const UsageError& error) {
+                FUZZ_CHECK(!error.text.empty());
+            }
+            try {
+                const SearchLimits limits = Search_limits(Parse_fixed(pair), size % 2 == 0);
+                FUZZ_CHECK(limits.Count() > 0 && limits.Count() <= 7680);
+                if (limits.Count() <= 64) {
+                    Search(*s, limits);
+                }
             } catch (const UsageError& error) {
                 FUZZ_CHECK(!error.text.empty());
             }

@@ -93,6 +93,25 @@ def main():
         "names": b'["Lastvar","Klima","Mat_index","Prof2_index","enk_1","dob_1","Bolt_index","Bolt_ab","Man_he_on","man_he",'
                  b'"gm_L","gm_Ke","gm_K","Prosjekt","Id"]',
         "option": b"P=-12,5",
+        "sweep": b"angle=90:0:-7.5",
+        "fix": b"bolt=M16x8.8,bolts=2,connector=D75,spacing=7d",
+        "search": b'{"P":-1,"dob_1":true,"enk_1":false,"alp":40, "Standard":true}    ',
+    })
+    seeds(folder, "loads", {
+        "semicolon": b"name;force;load\nDead;-3,2;permanent\nSnow;-12,5 kN;Medium\n",
+        "comma": b"\xef\xbb\xbfload,name,force,#note\r\n3,\"a, \"\"b\"\"\",800N,\"x\r\ny\"\r\n",
+        "minus": "name,force,load\na,\u22122,5\nb,+2.5,short\n".encode(),
+        "huge": b"name;force;load\na;1e38;1\nb;-1e-40;2\n",
+        "nameless": b"name;force;load;;\na;1;1;;\n;;;;\n",
+        "damaged": b"name;force;load\na;\"1;1\nb;2;long\n",
+    })
+    seeds(folder, "csv", {
+        "comma": b'Id,P,alp\nK1,8.5,30\n"K2, ""x""",-3,90\n',
+        "semicolon": b"\xef\xbb\xbfId;tension;joint;Standard;#own;\r\nK1;8,5;1,2;SANN;x;\r\n;;;;;\r\nK2;1.5;;;;\r\n",
+        "names": b"bolt,bolts,layout,spacing,connector,material,member1,member2,compression,angle,load,service\n"
+                 b'M16x8.8,2,b,7d,D75,C24,2x48x198,48x223,12.5,40,medium,1\nM24x4.6,6,a,5,none,C14,48x98,"T 48x198",1,0,5,3\n',
+        "quotes": b'P,Id\n"1\n2,x\n"3",4"\n5,"6\n7",\n"8"',
+        "typed": b"P,member2,Man_he_on,man_he\n1,48x223,true,100\n1,48x98,true,0\n",
     })
 
 

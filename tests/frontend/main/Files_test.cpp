@@ -71,6 +71,32 @@ TEST_F(Files, save_on_a_new_project_writes_a_file_of_its_title_without_a_dialog)
     EXPECT_TRUE(std::filesystem::exists(work / "New File"));
 }
 
+// A pass leaves a typed he out, and an opening is a pass. The box shows whole mm, and leaving it takes what it shows.
+TEST_F(Files, a_typed_he_comes_with_the_project_and_is_checked_when_its_box_is_left) {
+    Start("Eng");
+    Click("Opt_valg");
+    for (const char* box : {"Txt_b1", "Txt_b2"}) {
+        Enter_value(box, "98");
+    }
+    for (const char* box : {"Txt_h1", "Txt_h2"}) {
+        Enter_value(box, "398");
+    }
+    Enter_value("Txt_last", "2");
+    Click("Check_man");
+    Enter_value("Txt_man_he", "180.4");
+    EXPECT_EQ(Text("Lbl_verdict"), "Holds");
+    Save_as(Path("one.tnvik"));
+    Open(Path("one.tnvik"));
+    EXPECT_EQ(s.man_he, 180.4F);
+    EXPECT_EQ(Text("Txt_man_he"), "180");
+    EXPECT_EQ(Text("Lbl_verdict"), "Splitting not checked");
+    Click("Txt_man_he");
+    Key(Qt::Key_Tab);
+    EXPECT_EQ(Text("Lbl_verdict"), "Holds");
+    EXPECT_EQ(s.man_he, 180.0F);
+    EXPECT_EQ(s.he, 180.0F);
+}
+
 TEST_F(Files, save_as_asks_for_a_name_with_the_present_one) {
     Start();
     Save_as(Path("one.tnvik"));

@@ -1,0 +1,16 @@
+#!/usr/bin/env bash
+# reproducible.sh: builds the packages of HEAD twice, in folders of different names, and compares them bit for bit. Takes
+# as long as two whole builds.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+for folder in one another/deeper; do
+    mkdir -p "$work/$folder"
+    git clone -q . "$work/$folder/tarnvik"
+    TMPDIR="$work/$folder" TARNVIK_SKIP_TESTS=1 "$work/$folder/tarnvik/tools/release.sh" HEAD "$work/$folder/out"
+done
+diff "$work/one/out/SHA256SUMS" "$work/another/deeper/out/SHA256SUMS"
+echo "the same, bit for bit:"
+cat "$work/one/out/SHA256SUMS"

@@ -13,6 +13,8 @@
 namespace tarnvik::test {
 namespace {
 
+constexpr std::size_t longest_history = 100000; // of a walk of hours, whose memory is looked at
+
 class Monkey : public WindowTest, public testing::WithParamInterface<int> {
 protected:
     void Expect_consistent() {
@@ -236,6 +238,7 @@ protected:
             }
             Settle();
         }
+        boxes.messages.clear();
     }
 
 private:
@@ -267,6 +270,9 @@ TEST_P(Monkey, whatever_is_done_the_window_shows_what_the_state_holds) {
         const std::string did = Act();
         if (did.empty()) {
             continue;
+        }
+        if (history.size() > longest_history) {
+            history.erase(0, longest_history / 2);
         }
         history += did + "\n";
         Answer_all();

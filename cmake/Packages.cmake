@@ -21,7 +21,7 @@ set(same "(= ${PROJECT_VERSION}-${CPACK_DEBIAN_PACKAGE_RELEASE})")
 set(CPACK_DEBIAN_TARNVIK_PACKAGE_NAME tarnvik)
 set(CPACK_DEBIAN_TARNVIK_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_TARNVIK_PACKAGE_DEPENDS "tarnvik-data ${same}, fonts-liberation")
-set(CPACK_DEBIAN_TARNVIK_PACKAGE_RECOMMENDS "xdg-utils")
+set(CPACK_DEBIAN_TARNVIK_PACKAGE_RECOMMENDS "shared-mime-info, xdg-utils")
 set(CPACK_DEBIAN_TARNVIK_PACKAGE_SUGGESTS "tarnvik-check")
 set(CPACK_DEBIAN_TARNVIK_DESCRIPTION "bolted timber connections to Eurocode 5
 A structural engineer checks one bolted timber connection to EN 1995-1-1 and

@@ -51,7 +51,7 @@ inside tarnvik-check --sheet /tmp/sheet.html >/dev/null || [ $? -eq 1 ]
 inside tarnvik-check --verify /tmp/sheet.html
 tell "the tool runs without the toolkit"
 
-inside sh -c 'apt-get -qq install -y --no-install-recommends /debs/tarnvik_*.deb xdg-utils' >/dev/null
+inside sh -c 'apt-get -qq install -y --no-install-recommends /debs/tarnvik_*.deb xdg-utils libfile-mimeinfo-perl shared-mime-info desktop-file-utils' >/dev/null
 inside tarnvik-check --report /tmp/report.pdf >/dev/null || [ $? -eq 1 ]
 head -c 5 "$root/tmp/report.pdf" | grep -q '%PDF-'
 inside tarnvik --version

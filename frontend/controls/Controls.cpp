@@ -1,11 +1,13 @@
 #include "frontend/controls/Controls.h"
 
+#include <QAbstractItemView>
 #include <QFocusEvent>
 #include <QFontMetricsF>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPainterPath>
 #include <QStyleOptionButton>
+#include <QStyleOptionComboBox>
 #include <QStyleOptionFocusRect>
 #include <QTimer>
 #include <QWheelEvent>
@@ -208,17 +210,30 @@ ListBox::ListBox(QWidget* parent) : QComboBox(parent) {
     });
 }
 
+// The list that drops down takes the colour from its own palette.
 void ListBox::Set_back(std::uint32_t colour) {
-    back_ = colour;
-    QPalette changed = palette();
-    for (const QPalette::ColorRole role : {QPalette::Base, QPalette::Button}) {
-        if (colour == colour_white_box) {
-            changed.setColor(role, role == QPalette::Base ? Qt::white : QColor{0xf0, 0xf0, 0xf0});
-        } else {
-            changed.setColor(role, To_colour(colour));
-        }
+    if (colour == back_) {
+        return;
     }
-    setPalette(changed);
+    back_ = colour;
+    QPalette& wanted = palettes_.try_emplace(colour, palette()).first->second;
+    if (colour != colour_white_box) {
+        wanted.setColor(QPalette::Base, To_colour(colour));
+        wanted.setColor(QPalette::Button, To_colour(colour));
+    }
+    view()->setPalette(wanted);
+    update();
+}
+
+// The style keeps a picture of every list that it draws, by the identity of its palette, and never forgets the name of
+// one whose palette is gone. A widget has a new identity with every change, so each colour has one palette for good.
+void ListBox::initStyleOption(QStyleOptionComboBox* option) const {
+    QComboBox::initStyleOption(option);
+    if (const auto own = palettes_.find(back_); own != palettes_.end()) {
+        const QPalette::ColorGroup group = option->palette.currentColorGroup();
+        option->palette = own->second;
+        option->palette.setCurrentColorGroup(group);
+    }
 }
 
 void ListBox::wheelEvent(QWheelEvent* event) {

@@ -5,10 +5,12 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPalette>
 #include <QPushButton>
 #include <QRadioButton>
 
 #include <cstdint>
+#include <map>
 
 #include "calc/Screen.h"
 
@@ -143,11 +145,13 @@ signals:
     void Picked(int row);
 
 protected:
+    void initStyleOption(QStyleOptionComboBox* option) const override;
     void wheelEvent(QWheelEvent* event) override;
 
 private:
     bool told_{};
     std::uint32_t back_{colour_white_box};
+    std::map<std::uint32_t, QPalette> palettes_; // by the colour
 };
 
 } // namespace tarnvik

@@ -2,6 +2,7 @@
 // procedure writes; the lists and menus hold what they should.
 #include <QMenuBar>
 
+#include "frontend/painting/Texts.h"
 #include "tests/support/Window.h"
 
 namespace tarnvik::test {
@@ -122,6 +123,23 @@ TEST_F(Controls, fixed_lists) {
     EXPECT_EQ(items("cboProf1")[0], "T  28x70"); // with both blanks
     EXPECT_EQ(items("cboProf2"), items("cboProf1"));
     EXPECT_EQ(items("cboProf1").back(), s.Prof[static_cast<std::size_t>(s.Prof1_count)].Id);
+}
+
+// The style keeps a picture for every palette: a new one for every change would take memory without end.
+TEST_F(Controls, a_list_is_drawn_in_its_colour_with_the_palette_that_it_had_before) {
+    Start();
+    auto& list = Find<ListBox>("Comb_bulldog");
+    const QImage as_built = list.grab().toImage();
+    list.Set_back(green);
+    const QImage on_green = list.grab().toImage();
+    EXPECT_NE(on_green, as_built);
+    EXPECT_GT(on_green.pixelColor(6, list.height() / 2).green(), on_green.pixelColor(6, list.height() / 2).red());
+    EXPECT_EQ(list.view()->palette().color(QPalette::Base), To_colour(green));
+    const qint64 identity = list.palette().cacheKey();
+    list.Set_back(white);
+    EXPECT_EQ(list.grab().toImage(), as_built);
+    EXPECT_EQ(list.view()->palette().color(QPalette::Base), To_colour(white));
+    EXPECT_EQ(list.palette().cacheKey(), identity);
 }
 
 TEST_F(Controls, the_menu_bar_in_its_order) {

@@ -1,14 +1,19 @@
 // A user without a plan: many inputs in any order, and after each of them the window shows what the state holds.
+#include <chrono>
+#include <cstdio>
 #include <random>
 
 #include "calc/Splitting.h"
 #include "calc/pass/Main_beregn.h"
 #include "session/Standing.h"
+#include "tests/support/Memory.h"
 #include "tests/support/RecordingMessageBox.h"
 #include "tests/support/Window.h"
 
 namespace tarnvik::test {
 namespace {
+
+constexpr std::size_t longest_history = 100000; // of a walk of hours, whose memory is looked at
 
 class Monkey : public WindowTest, public testing::WithParamInterface<int> {
 protected:
@@ -137,6 +142,9 @@ protected:
                                                     "Txt_last", "Txt_alp", "Txt_man_he"};
         static const char* const texts[] = {"150", "61,5", "223", "405", "12.5", "0", "-4", "x", "300"};
         static const Qt::Key keys[] = {Qt::Key_Tab, Qt::Key_Return, Qt::Key_Backtab};
+        if (Any(12) == 0) {
+            return Visit();
+        }
         switch (Any(4)) {
         case 0: {
             const char* name = One_of(lists);
@@ -175,6 +183,43 @@ protected:
         }
         }
     }
+    // Opens another window, if it comes up, does something in it and closes it; or makes this one smaller and
+    // larger again.
+    std::string Visit() {
+        static const char* const buttons[] = {"Cmd_detail", "Cmd_tverr"};
+        static const char* const classes[] = {"Opt_Lastvarighet(0)", "Opt_Lastvarighet(2)", "Opt_Lastvarighet(4)",
+                                              "Opt_klimaklasse(0)",  "Opt_klimaklasse(1)",  "Opt_klimaklasse(2)"};
+        const int which = Any(4);
+        if (which == 0) {
+            const QSize size = window->size();
+            window->resize(200 + Any(size.width()), 200 + Any(size.height()));
+            Settle();
+            window->resize(size);
+            Settle();
+            return "resize";
+        }
+        const std::string choice = One_of(classes);
+        QTimer::singleShot(0, window.get(), [which, choice] {
+            QWidget* dialog = QApplication::activeModalWidget();
+            if (dialog == nullptr) {
+                return; // a refused value has kept it from coming
+            }
+            Settle();
+            if (which == 1) {
+                Click(Find_in<QWidget>(*dialog, choice));
+            }
+            dialog->close();
+        });
+        const std::string name = which == 1 ? "mnuklasse" : One_of(buttons);
+        if (which == 1) {
+            Find<QAction>(name).trigger();
+            Settle();
+        } else if (Usable(name)) {
+            Click(name);
+        }
+        Be_active();
+        return "visit " + name + " " + choice;
+    }
     // A list does not drop down where the click first refuses the box that it leaves.
     void Pick_if_it_drops(const char* name, int row) {
         auto& list = Find<QComboBox>(name);
@@ -193,6 +238,7 @@ protected:
             }
             Settle();
         }
+        boxes.messages.clear();
     }
 
 private:
@@ -207,13 +253,26 @@ TEST_P(Monkey, whatever_is_done_the_window_shows_what_the_state_holds) {
     Pick("cboProf1", 55); // L 42x405: most cases fit
     Pick("cboProf2", 55);
     std::string history;
-    // A longer walk: TARNVIK_MONKEY_STEPS=25000.
+    // A longer walk: TARNVIK_MONKEY_STEPS=25000, or TARNVIK_MONKEY_SECONDS=600, which tells how it went.
     const int asked = qEnvironmentVariableIntValue("TARNVIK_MONKEY_STEPS");
+    const int seconds = qEnvironmentVariableIntValue("TARNVIK_MONKEY_SECONDS");
     const int steps = asked > 0 ? asked : 250;
-    for (int i = 0; i < steps && !HasFailure(); ++i) {
+    const auto begin = std::chrono::steady_clock::now();
+    const auto goes_on = [&](int step) {
+        return seconds > 0 ? std::chrono::steady_clock::now() - begin < std::chrono::seconds{seconds} : step < steps;
+    };
+    int i = 0;
+    for (; goes_on(i) && !HasFailure(); ++i) {
+        if (seconds > 0 && i % 2000 == 0) {
+            std::printf("walk %d: %d events, %ld MB\n", GetParam(), i, Resident_kB() / 1024);
+            std::fflush(stdout);
+        }
         const std::string did = Act();
         if (did.empty()) {
             continue;
+        }
+        if (history.size() > longest_history) {
+            history.erase(0, longest_history / 2);
         }
         history += did + "\n";
         Answer_all();
@@ -239,6 +298,9 @@ TEST_P(Monkey, whatever_is_done_the_window_shows_what_the_state_holds) {
         }
         Expect_consistent();
         Expect_true_marks();
+    }
+    if (seconds > 0) {
+        std::printf("walk %d: %d events in %d s, %ld MB\n", GetParam(), i, seconds, Resident_kB() / 1024);
     }
     if (HasFailure()) {
         std::cerr << history;

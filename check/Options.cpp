@@ -113,6 +113,8 @@ Exit status: 0 all calculated and no utilisation above 1.0; 1 all calculated, so
 utilisation above 1.0, or with --strict something that does not fit or was not
 checked, or nothing found; 2 wrong usage or unreadable input; 3 a check was stopped or
 its arithmetic failed.
+
+What is checked and what is not: "Tarnvik User & Theory Manual.pdf", section 12.
 )";
     return text;
 }

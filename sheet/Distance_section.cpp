@@ -82,7 +82,7 @@ private:
                                    {"mm", "n"}};
         if (s_.Med_bulldog) {
             headings.emplace_back(english ? "Connectors, table 8.8" : "Forbindere, tabell 8.8");
-            headings.push_back({"mm", "n"});
+            headings.emplace_back("mm", "n");
         }
         page_.Begin_table("distances",
                           (english ? "Minimum distances in member " : "Minsteavstander i del ") +
@@ -103,7 +103,7 @@ private:
         std::vector<Cell> cells{label, role.words.In(facts_.english), Cell{Indexed(role.symbol)}};
         const auto add = [&](std::string_view formula, const std::optional<float>& value) {
             cells.push_back(formula.empty() ? Cell{"–"} : Cell{Markup{Formula{With_spacing(formula)}.Symbols()}});
-            cells.push_back({value ? Shown(*value) : std::string{"–"}, "n"});
+            cells.emplace_back(value ? Shown(*value) : std::string{"–"}, "n");
         };
         add(distance.S_formula, distance.S);
         if (s_.Med_bulldog) {
@@ -136,7 +136,7 @@ private:
                         (english ? ": add by hand" : ": legg til for hånd");
             }
             cells.emplace_back(note);
-            cells.push_back({Shown(sum), "n"});
+            cells.emplace_back(Shown(sum), "n");
         };
         add(bolts, &ListedDistance::S);
         if (s_.Med_bulldog) {

@@ -136,7 +136,7 @@ const Symbol* Find_symbol(std::string_view name) {
 }
 
 std::string Symbol_markup(const Symbol& symbol) {
-    const std::string base = "<mi>" + std::string{symbol.base} + "</mi>";
+    std::string base = "<mi>" + std::string{symbol.base} + "</mi>";
     if (symbol.index.empty()) {
         return base;
     }

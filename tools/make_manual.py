@@ -12,7 +12,7 @@ manifest.txt holds a hash of each such piece, of each source and of the PDF. Han
 program while the chapters are read. Lines of the Markdown that begin with "%%" ask for such a piece:
 
     %% figure FILE WIDTH_IN_MM CAPTION     a picture by its key, a window of manual_walk, a page of a report
-    %% row WIDTH_IN_MM FILE... | CAPTION   several beside each other
+    %% row WIDTHS FILE... | CAPTION        several beside each other, of one width or "40,60"
     %% table NAME                          one of the tables below
     %% run COMMAND                         a command line and what it prints
     %% lines FROM TO COMMAND               the same, of what it prints these lines only
@@ -124,33 +124,34 @@ def escaped(text):
     return text.replace("\0", r"\textbackslash{}")
 
 
-def table(columns, heading, rows, caption=None, size="small"):
-    """A table over pages; `columns` in LaTeX, cells are LaTeX."""
+def table(columns, heading, rows, caption, size="small"):
+    """A table, over pages where it has long texts; `columns` in LaTeX, cells are LaTeX."""
     head = " & ".join(r"\textbf{" + cell + "}" for cell in heading) + r" \\"
-    lines = [rf"{{\{size}", rf"\begin{{longtable}}{{@{{}}{columns}@{{}}}}"]
-    if caption:
-        lines.append(rf"\caption{{{caption}}}\\")
-    lines += [r"\toprule", head, r"\midrule", r"\endfirsthead", r"\toprule", head, r"\midrule", r"\endhead", r"\bottomrule",
-              r"\endfoot"]
+    if "L{" not in columns:
+        return "\n".join([rf"\begin{{table}}[H]\centering\{size}\caption{{{caption}}}",
+                          rf"\begin{{tabular}}{{@{{}}{columns}@{{}}}}\toprule", head, r"\midrule",
+                          *(" & ".join(row) + r" \\" for row in rows), r"\bottomrule\end{tabular}\end{table}"])
+    lines = [rf"{{\{size}", rf"\begin{{longtable}}{{@{{}}{columns}@{{}}}}", rf"\caption{{{caption}}}\\", r"\toprule", head,
+             r"\midrule", r"\endfirsthead", r"\toprule", head, r"\midrule", r"\endhead", r"\bottomrule", r"\endfoot"]
     lines += [" & ".join(row) + r" \\" for row in rows]
     return "\n".join([*lines, r"\end{longtable}}"])
 
 
 def inputs_of(facts, window, caption):
     rows, seen = [], set()
-    for of, _, name, tip in facts.loaded("inputs.json"):
-        if of != window or not name:
+    for row_of, _, name, tip in facts.loaded("inputs.json"):
+        if row_of != window or not name:
             continue
         name, tip = (text.replace("{1}", "Member").replace("{2}", "Member") for text in (name, tip))
         if (name, tip) in seen:
             continue
         seen.add((name, tip))
-        words, clause = re.match(r"(?s)(.*?)\s*((?:EN 1995-1-1 .*)?)$", tip.replace("Ctrl+D", "").strip()).groups()
-        words = words.rstrip(", ") if clause else words
-        if not words.endswith("."):
-            words += "."
-        rows.append([escaped(name), escaped(words.replace("\n", " ")),
-                     escaped(clause.replace("EN 1995-1-1 ", "").replace("\n", " "))])
+        lines = [line if line.endswith((".", ",")) else line + "." for line in tip.replace("\nCtrl+D", "").split("\n")]
+        words, of, clause = " ".join(lines).rpartition("EN 1995-1-1 ")
+        if not words.rstrip().endswith((".", ",")):  # in the midst of a sentence, or none
+            words, clause = words + of + clause, ""
+        words = re.sub(",$", ".", words.rstrip())
+        rows.append([escaped(name), escaped(words), escaped(clause.rstrip("."))])
     return table(r"L{42mm}L{88mm}L{27mm}", ["Input", "What it is, unit, range, effect", "EN 1995-1-1"], rows, caption)
 
 
@@ -261,12 +262,12 @@ def case_block(facts, case):
         rows.append(f"${name[0]}_{name[1]}${mark} & {rule_cells(tension, compression, 'bolts')} & "
                     f"{rule_cells(tension, compression, 'connectors')} " + r"\\")
     rows.append(sum_row(case, "b", 2))
-    picture = r"\includegraphics[width=43mm]{%s}\\[-1pt]{\scriptsize\sffamily %s}"
+    picture = r"\includegraphics[width=48mm]{%s}\\[-1pt]{\scriptsize\sffamily %s}"
     return "\n".join([
         r"\begin{caseblock}{" + code.rstrip(".") + "}",
-        r"\begin{minipage}[t]{44mm}\vspace{0pt}\centering", picture % (sketches[0], "tension") + r"\\[2pt]",
-        picture % (sketches[1], "compression"), r"\end{minipage}\hfill",
-        r"\begin{minipage}[t]{118mm}\vspace{0pt}\scriptsize\setlength{\tabcolsep}{2.5pt}",
+        r"\begin{minipage}[t]{49mm}\vspace{0pt}\centering", picture % (sketches[0], "tension") + r"\\[2pt]",
+        picture % (sketches[1], "compression"), r"\end{minipage}\hfill%",
+        r"\begin{minipage}[t]{115mm}\vspace{0pt}\footnotesize\setlength{\tabcolsep}{4pt}",
         r"\begin{tabular}{@{}lcccc@{}}\toprule & \multicolumn{2}{c}{bolts} & \multicolumn{2}{c}{connectors}\\"
         r"\cmidrule(lr){2-3}\cmidrule(l){4-5} & tension & compression & tension & compression\\\midrule",
         *rows, r"\bottomrule\end{tabular}\end{minipage}", r"\end{caseblock}"])
@@ -274,6 +275,15 @@ def case_block(facts, case):
 
 def table_rules(facts):
     return "\n".join(case_block(facts, case) for case in facts.loaded("rules.json"))
+
+
+def table_unchecked(facts):
+    sheet = facts.folder / "sheet.html"
+    facts.run_program([*shlex.split(HEEL), "--sheet", str(sheet)], keep=None)
+    listed = re.search(r'<ul class="unchecked">(.*?)</ul>', sheet.read_text(), re.DOTALL).group(1)
+    facts.keep("lines of the check sheet", listed)
+    lines = [re.sub(r"<sub>(.*?)</sub>", r"\\textsubscript{\1}", line) for line in re.findall(r"<li>(.*?)</li>", listed)]
+    return "\n".join([r"\begin{itemize}", *(r"\item " + line for line in lines), r"\end{itemize}"])
 
 
 TABLES = {name[len("table_"):].replace("_", "-"): run for name, run in list(globals().items()) if name.startswith("table_")}
@@ -288,7 +298,8 @@ def raw(latex):
 
 def figure(files, width, caption, facts):
     shown = []
-    for name in files:
+    widths = width.split(",") * (1 if "," in width else len(files))
+    for name, width in zip(files, widths):
         file, page = facts.picture(name)
         option = f",page={page}" if page else ""
         shown.append(rf"\includegraphics[width={width}mm{option}]{{{file}}}")
@@ -364,7 +375,7 @@ def make_pdf(markdown, folder):
     (folder / "manual.md").write_text(markdown)
     subprocess.run(["pandoc", "manual.md", "--from=markdown+raw_attribute-implicit_figures", "--to=latex", "--standalone",
                     "--toc", "--toc-depth=2", "--number-sections", "--top-level-division=section",
-                    "--include-in-header=" + str(MANUAL / "style.tex"), "--metadata", "version=" + version(),
+                    "--include-in-header=" + str(MANUAL / "style.tex"), "--metadata", "date=Version " + version(),
                     "--highlight-style=monochrome", "--output=manual.tex"], cwd=folder, check=True)
     for _ in range(3):  # contents, then page numbers
         done = subprocess.run(["lualatex", "-interaction=nonstopmode", "-halt-on-error", "manual.tex"], cwd=folder,

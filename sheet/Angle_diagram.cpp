@@ -12,8 +12,8 @@
 #include "calc/Text.h"
 #include "calc/Words.h"
 #include "calc/pass/Main_beregn.h"
+#include "sheet/Diagram_svg.h"
 #include "sheet/Sections.h"
-#include "spacing/sketch/Svg.h"
 
 namespace tarnvik {
 
@@ -77,11 +77,6 @@ std::string Attributes(double x1, double y1, double x2, double y2) {
            Coordinate(y2) + "\"";
 }
 
-std::string Text(double x, double y, std::string_view anchor, std::string_view text) {
-    return "<text x=\"" + Coordinate(x) + "\" y=\"" + Coordinate(y) + "\" text-anchor=\"" + std::string{anchor} +
-           "\">" + Escaped(text) + "</text>\n";
-}
-
 class Diagram {
 public:
     explicit Diagram(const SheetFacts& facts) : facts_(facts) {
@@ -96,11 +91,7 @@ public:
     }
 
     std::string Draw(std::string_view title) {
-        const std::string w = Coordinate(width);
-        const std::string h = Coordinate(height);
-        svg_ = "<svg xmlns=\"http://www.w3.org/2000/svg\" role=\"img\" width=\"" + w + "\" height=\"" + h +
-               "\" viewBox=\"0 0 " + w + " " + h + "\" style=\"" + std::string{svg_letters} +
-               "; font-size: 10px\">\n<title>" + Escaped(title) + "</title>\n";
+        svg_ = Begin_diagram(width, height, title);
         Axes();
         Curve(&Capacity::bolts, "");
         Curve(&Capacity::splitting, " stroke-dasharray=\"6 3\"");
@@ -117,16 +108,16 @@ private:
         constexpr double grid = 30.0;
         for (double alp = 0.0; alp <= last_angle; alp += grid) {
             svg_ += "<line " + Attributes(X(alp), top, X(alp), bottom) + " stroke=\"#bbb\" stroke-width=\"0.5\"/>\n";
-            svg_ += Text(X(alp), bottom + 11.0, "middle", Coordinate(alp) + "°");
+            svg_ += Diagram_text(X(alp), bottom + 11.0, "middle", Coordinate(alp) + "°");
         }
         for (double force = 0.0; force <= most_; force += Step(most_)) {
             svg_ +=
                 "<line " + Attributes(left, Y(force), right, Y(force)) + " stroke=\"#bbb\" stroke-width=\"0.5\"/>\n";
-            svg_ += Text(left - 3.0, Y(force) + 3.5, "end", Number(force));
+            svg_ += Diagram_text(left - 3.0, Y(force) + 3.5, "end", Number(force));
         }
-        svg_ +=
-            Text((left + right) / 2.0, bottom + 23.0, "middle",
-                 facts_.english ? "angle α between the members; force in kN" : "vinkel α mellom delene; kraft i kN");
+        svg_ += Diagram_text((left + right) / 2.0, bottom + 23.0, "middle",
+                             facts_.english ? "angle α between the members; force in kN"
+                                            : "vinkel α mellom delene; kraft i kN");
         svg_ += "<rect x=\"" + Coordinate(left) + "\" y=\"" + Coordinate(top) + "\" width=\"" +
                 Coordinate(right - left) + "\" height=\"" + Coordinate(bottom - top) +
                 "\" fill=\"none\" stroke=\"#000\" stroke-width=\"0.8\"/>\n";
@@ -197,8 +188,8 @@ private:
         }
         const bool near_right = alp > 0.75 * last_angle;
         svg_ += "<g stroke=\"#fff\" stroke-width=\"3\" paint-order=\"stroke\">";
-        svg_ += Text(X(alp) + (near_right ? -3.0 : 3.0), Free_height(), near_right ? "end" : "start",
-                     "α = " + std::string{Trim(Format(facts_.s.alp, "0.0"))} + "°");
+        svg_ += Diagram_text(X(alp) + (near_right ? -3.0 : 3.0), Free_height(), near_right ? "end" : "start",
+                             "α = " + std::string{Trim(Format(facts_.s.alp, "0.0"))} + "°");
         svg_ += "</g>\n";
     }
 

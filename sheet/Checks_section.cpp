@@ -4,9 +4,9 @@
 
 #include "calc/Text.h"
 #include "calc/Words.h"
+#include "sheet/Diagram_svg.h"
 #include "sheet/Sections.h"
 #include "sheet/Symbols.h"
-#include "spacing/sketch/Svg.h"
 
 namespace tarnvik {
 
@@ -81,11 +81,6 @@ std::string Line(double x, double y1, double y2) {
            Coordinate(y2) + "\" stroke=\"#000\" stroke-width=\"1.2\"/>\n";
 }
 
-std::string Text(double x, double y, std::string_view anchor, std::string_view text) {
-    return "<text x=\"" + Coordinate(x) + "\" y=\"" + Coordinate(y) + "\" text-anchor=\"" + std::string{anchor} +
-           "\">" + Escaped(text) + "</text>\n";
-}
-
 // What fails is hatched as well, so that nothing hangs on a colour.
 std::string Bar(double y, const CheckResult& result) {
     const double length = one * std::min(static_cast<double>(Ratio(result)), longest);
@@ -109,25 +104,23 @@ std::string Bars(const SheetFacts& facts, std::string_view title) {
             continue;
         }
         const double base = y + bar_height - 1.5;
-        rows += Text(name_width, base, "end", Check_words(check, facts.english));
+        rows += Diagram_text(name_width, base, "end", Check_words(check, facts.english));
         if (result.checked) {
             rows += Bar(y, result);
             const double end = one * std::min(static_cast<double>(Ratio(result)), longest);
-            rows += Text(std::max(bar_left + end + 4.0, bar_left + one + 4.0), base, "start", Ratio_text(result));
+            rows +=
+                Diagram_text(std::max(bar_left + end + 4.0, bar_left + one + 4.0), base, "start", Ratio_text(result));
         } else {
-            rows += Text(bar_left + 4.0, base, "start", Holds_text(facts, result));
+            rows += Diagram_text(bar_left + 4.0, base, "start", Holds_text(facts, result));
         }
         y += bar_step;
     }
-    const std::string w = Coordinate(bars_width);
-    const std::string h = Coordinate(y + 12.0);
-    std::string svg = "<svg xmlns=\"http://www.w3.org/2000/svg\" role=\"img\" width=\"" + w + "\" height=\"" + h +
-                      "\" viewBox=\"0 0 " + w + " " + h + "\" style=\"" + std::string{svg_letters} +
-                      "; font-size: 10px\">\n<title>" + Escaped(title) + "</title>\n";
+    std::string svg = Begin_diagram(bars_width, y + 12.0, title);
     svg += hatching;
     svg += rows;
     svg += Line(bar_left, 0.0, y) + Line(bar_left + one, 0.0, y);
-    svg += Text(bar_left, y + 9.0, "middle", "0") + Text(bar_left + one, y + 9.0, "middle", Shown(1.0F, "0.0"));
+    svg += Diagram_text(bar_left, y + 9.0, "middle", "0") +
+           Diagram_text(bar_left + one, y + 9.0, "middle", Shown(1.0F, "0.0"));
     return svg + "</svg>\n";
 }
 

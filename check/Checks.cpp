@@ -46,7 +46,7 @@ void Append_check(std::string& json, const Judgement& judgement, std::size_t i) 
     } else {
         object.Null("holds");
     }
-    object.Member("clause", Check_clause(judgement.verdict, static_cast<Check>(i)));
+    object.Member("clause", Check_clause(judgement.verdict, static_cast<Check>(i), true));
     if (Is_splitting(i)) {
         object.Member("he_typed", judgement.he_typed);
         object.Member("current", check.checked);
@@ -156,7 +156,7 @@ std::string Checks_summary(const Judgement& judgement) {
         }
         const bool typed = Is_splitting(i) && judgement.he_typed;
         Add_line(text, check_rows[i].name, value,
-                 std::string{Check_clause(judgement.verdict, static_cast<Check>(i))} +
+                 std::string{Check_clause(judgement.verdict, static_cast<Check>(i), true)} +
                      (typed ? ", he given by hand" : ""));
     }
     const GoverningMode& mode = judgement.governing;

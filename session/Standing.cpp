@@ -30,16 +30,15 @@ constexpr std::array<FailureWords, 4> failure_words{{
 }};
 
 struct CheckRow {
-    Words words;
-    std::string_view clause;
+    Words words, clause;
 };
 constexpr std::array<CheckRow, check_count> check_rows{{
     {{"Utilisation",                        "Utnyttelse"},                         "8.2.2, 8.5.1"},
     {{"Splitting",                          "Tverrstrekk"},                        "8.1.4"},
-    {{"Distances of bolts, member 1",       "Avstander for bolter, del 1"},        "table 8.4"},
-    {{"Distances of bolts, member 2",       "Avstander for bolter, del 2"},        "table 8.4"},
-    {{"Distances of connectors, member 1",  "Avstander for forbindere, del 1"},    "8.10, tables 8.7 to 8.9"},
-    {{"Distances of connectors, member 2",  "Avstander for forbindere, del 2"},    "8.10, tables 8.7 to 8.9"},
+    {{"Distances of bolts, member 1",       "Avstander for bolter, del 1"},        {"table 8.4", "tabell 8.4"}},
+    {{"Distances of bolts, member 2",       "Avstander for bolter, del 2"},        {"table 8.4", "tabell 8.4"}},
+    {{"Distances of connectors, member 1",  "Avstander for forbindere, del 1"},    {"8.10, tables 8.7 to 8.9", "8.10, tabell 8.7 til 8.9"}},
+    {{"Distances of connectors, member 2",  "Avstander for forbindere, del 2"},    {"8.10, tables 8.7 to 8.9", "8.10, tabell 8.7 til 8.9"}},
 }};
 
 // A failure mode of single or of double shear.
@@ -135,9 +134,9 @@ std::string_view Check_words(Check check, bool english) {
 }
 
 // The utilisation is that of bolts and connectors together.
-std::string_view Check_clause(const Verdict& verdict, Check check) {
+std::string_view Check_clause(const Verdict& verdict, Check check, bool english) {
     const bool connectors = check == Check::utilisation && verdict[Check::connectors_fit_1].applies;
-    return connectors ? "8.2.2, 8.5.1, 8.10" : check_rows[static_cast<std::size_t>(check)].clause;
+    return connectors ? "8.2.2, 8.5.1, 8.10" : check_rows[static_cast<std::size_t>(check)].clause.In(english);
 }
 
 std::string Verdict_details(const Verdict& verdict, const ConnectionValues& s, bool english) {

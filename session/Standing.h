@@ -50,7 +50,7 @@ std::string Verdict_text(const Verdict& verdict, bool english);
 
 // What is checked, in words, and the clause of EN 1995-1-1 or its table.
 std::string_view Check_words(Check check, bool english);
-std::string_view Check_clause(const Verdict& verdict, Check check);
+std::string_view Check_clause(const Verdict& verdict, Check check, bool english);
 
 // A line for each check with its figures, and the failure mode that governs.
 std::string Verdict_details(const Verdict& verdict, const ConnectionValues& s, bool english);

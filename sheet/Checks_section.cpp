@@ -145,7 +145,7 @@ void Write_checks(Page& page, const SheetFacts& facts) {
         }
         const Pair pair = result.checked ? Pair_of(facts, check) : Pair{"–", "–"};
         page.Row({Check_words(check, english),
-                  Check_clause(facts.verdict, check),
+                  Check_clause(facts.verdict, check, english),
                   {pair.demand, "n"},
                   {pair.capacity, "n"},
                   {result.checked ? Ratio_text(result) : std::string{"–"}, "n"},

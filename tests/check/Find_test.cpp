@@ -11,6 +11,7 @@ namespace {
 
 using test::Json;
 using test::Names;
+using test::Text_lines;
 using test::Tool;
 using test::ToolRun;
 using Arguments = std::vector<std::string>;
@@ -21,15 +22,6 @@ Arguments Joint(const Arguments& further, const char* angle = "40") {
                         "48x223", "--material", "C24",     "--angle", angle,       "--load",   "medium"};
     arguments.insert(arguments.end(), further.begin(), further.end());
     return arguments;
-}
-
-std::vector<std::string> Text_lines(const std::string& text) {
-    std::vector<std::string> lines;
-    std::istringstream in{text};
-    for (std::string line; std::getline(in, line);) {
-        lines.push_back(line);
-    }
-    return lines;
 }
 
 TEST(Find, what_it_lists_is_the_check_of_it) {

@@ -47,6 +47,18 @@ protected:
         return Read(file);
     }
 
+    // Changes a piece of the record of a sheet, and its checksum with it.
+    void Forge(const std::string& former, const std::string& other) {
+        std::string html = Written();
+        const std::size_t begin = html.find("content=\"{") + 9;
+        const std::string record = html.substr(begin, html.find("\">", begin) - begin);
+        std::string forged = record;
+        Replace(forged, former, other);
+        Replace(html, record, forged);
+        Replace(html, Record_checksum(Unquoted(record)), Record_checksum(Unquoted(forged)));
+        Write(file, html);
+    }
+
     TemporaryFolder folder;
     std::string file = (folder / "sheet.html").string();
 };
@@ -87,28 +99,14 @@ TEST_F(Sheets, changed_inputs_do_not_belong_to_the_checksum) {
 
 // Whoever forges the checksum as well is found by the calculation.
 TEST_F(Sheets, forged_results_are_found_by_calculating_again) {
-    std::string html = Written();
-    const std::size_t begin = html.find("content=\"{") + 9;
-    std::string record = html.substr(begin, html.find("\">", begin) - begin);
-    std::string forged = record;
-    Replace(forged, "&quot;uf&quot;:1.9870343", "&quot;uf&quot;:0.9870343");
-    Replace(html, record, forged);
-    Replace(html, Record_checksum(Unquoted(record)), Record_checksum(Unquoted(forged)));
-    Write(file, html);
+    Forge("&quot;uf&quot;:1.9870343", "&quot;uf&quot;:0.9870343");
     const ToolRun run = Tool({"--verify", file});
     EXPECT_EQ(run.status, 1);
     EXPECT_EQ(run.out, file + ": uf is 0.9870343 in the sheet, calculated 1.9870343\n");
 }
 
 TEST_F(Sheets, the_page_of_another_version_is_not_compared) {
-    std::string html = Written();
-    const std::size_t begin = html.find("content=\"{") + 9;
-    const std::string record = html.substr(begin, html.find("\">", begin) - begin);
-    std::string other = record;
-    Replace(other, "&quot;version&quot;:&quot;1.2.0&quot;", "&quot;version&quot;:&quot;1.1.0&quot;");
-    Replace(html, record, other);
-    Replace(html, Record_checksum(Unquoted(record)), Record_checksum(Unquoted(other)));
-    Write(file, html);
+    Forge("&quot;version&quot;:&quot;1.2.0&quot;", "&quot;version&quot;:&quot;1.1.0&quot;");
     const ToolRun run = Tool({"--verify", file});
     EXPECT_EQ(run.status, 0);
     EXPECT_EQ(run.out, file + ": results verified; the page is of version 1.1.0 and was not compared\n");

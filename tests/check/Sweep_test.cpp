@@ -9,6 +9,7 @@ namespace tarnvik {
 namespace {
 
 using test::Json;
+using test::Text_lines;
 using test::Tool;
 using test::ToolRun;
 using Arguments = std::vector<std::string>;
@@ -19,15 +20,6 @@ Arguments Joint(const Arguments& further) {
                         "--material", "C24",    "--angle", "40",      "--load",    "medium"};
     arguments.insert(arguments.end(), further.begin(), further.end());
     return arguments;
-}
-
-std::vector<std::string> Text_lines(const std::string& text) {
-    std::vector<std::string> lines;
-    std::istringstream in{text};
-    for (std::string line; std::getline(in, line);) {
-        lines.push_back(line);
-    }
-    return lines;
 }
 
 TEST(Sweep, ranges_end_where_they_are_said_to) {

@@ -326,6 +326,7 @@ TEST_F(Sheet, has_two_diagrams_two_sketches_and_the_figure_of_splitting_each_wit
 TEST_F(Sheet, the_verdict_stands_in_the_language) {
     Calculate(6, 1, true, false, "Nor");
     EXPECT_NE(html_.find("<html lang=\"nb\">"), std::string::npos);
+    EXPECT_EQ(Tables_of(html_, "checks").at(0)[2][1], "tabell 8.4");
     EXPECT_NE(html_.find(">" + Verdict_text(verdict_, false) + "</p>"), std::string::npos);
     Calculate(6, 1, true, false, "Eng");
     EXPECT_NE(html_.find("<html lang=\"en\">"), std::string::npos);

@@ -53,6 +53,16 @@ inline ToolRun Tool(const std::vector<std::string>& arguments, const std::string
     return Tool_with(nullptr, arguments, input);
 }
 
+// What was printed, line by line.
+inline std::vector<std::string> Text_lines(const std::string& text) {
+    std::vector<std::string> lines;
+    std::istringstream in{text};
+    for (std::string line; std::getline(in, line);) {
+        lines.push_back(line);
+    }
+    return lines;
+}
+
 inline std::vector<std::string> Names(const Json& object) {
     std::vector<std::string> names;
     for (const auto& member : object.items()) {

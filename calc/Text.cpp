@@ -159,7 +159,7 @@ std::string_view Rounded_digits(double magnitude, std::size_t decimals, Digits& 
     const double scaled = magnitude * scale;
     char* const begin = buffer.data();
     char* const room = begin + buffer.size();
-    char* end = begin;
+    char* end = nullptr;
     if (scaled < 0x1p62) { // many times faster than the digits of a double, which only the largest floats need
         auto rounded = static_cast<std::int64_t>(scaled);
         if (scaled - static_cast<double>(rounded) >= 0.5) {

@@ -60,8 +60,7 @@ std::string Material_lacks(const MatRecord& row, bool english) {
                          row.dens, 0.0, " kg/m3", english);
     }
     if (row.Type != "T" && row.Type != "L" && row.Type != "Ke" && row.Type != "K") {
-        return (english ? "type \"" : "type \"") + row.Type +
-               (english ? "\", expected T, L, Ke or K" : "\", ventet T, L, Ke eller K");
+        return "type \"" + row.Type + (english ? "\", expected T, L, Ke or K" : "\", ventet T, L, Ke eller K");
     }
     return {};
 }

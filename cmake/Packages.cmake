@@ -20,7 +20,7 @@ set(same "(= ${PROJECT_VERSION}-${CPACK_DEBIAN_PACKAGE_RELEASE})")
 
 set(CPACK_DEBIAN_TARNVIK_PACKAGE_NAME tarnvik)
 set(CPACK_DEBIAN_TARNVIK_PACKAGE_SHLIBDEPS ON)
-set(CPACK_DEBIAN_TARNVIK_PACKAGE_DEPENDS "tarnvik-data ${same}, fonts-liberation")
+set(CPACK_DEBIAN_TARNVIK_PACKAGE_DEPENDS "tarnvik-data ${same}")
 set(CPACK_DEBIAN_TARNVIK_PACKAGE_RECOMMENDS "shared-mime-info, xdg-utils")
 set(CPACK_DEBIAN_TARNVIK_PACKAGE_SUGGESTS "tarnvik-check")
 set(CPACK_DEBIAN_TARNVIK_DESCRIPTION "bolted timber connections to Eurocode 5

@@ -6,11 +6,11 @@
 # Only missing packages are installed, and where nothing is missing no network is needed. Needs root, or sudo.
 # shellcheck shell=bash disable=SC2034
 
-# Compiler and build system, GoogleTest, JSON (general and fast), CSV, a checksum, Qt 6 with PrintSupport and Svg, the fonts of the
-# window and the report, and what the tests read a printed report and make regional settings with.
+# Compiler and build system, GoogleTest, JSON (general and fast), CSV, a checksum, Qt 6 with PrintSupport, and what the tests read
+# a printed report and make regional settings with.
 build_packages=(
     g++ cmake ninja-build libgtest-dev nlohmann-json3-dev libsimdjson-dev libcsv-dev libxxhash-dev
-    qt6-base-dev qt6-svg-dev fonts-liberation poppler-utils python3 locales
+    qt6-base-dev poppler-utils python3 locales
 )
 
 # What the tests of saving set access lists and attributes with, and stop a save with, the validators of the tool's JSON and of

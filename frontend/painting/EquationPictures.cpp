@@ -5,15 +5,17 @@
 #include <QFontDatabase>
 #include <QGlyphRun>
 #include <QPainter>
+#include <QPainterPath>
 #include <QPointF>
 #include <QRawFont>
 #include <QRectF>
 #include <QString>
-#include <QSvgRenderer>
 
 #include <algorithm>
 #include <cmath>
+#include <functional>
 #include <span>
+#include <unordered_map>
 
 #include "frontend/painting/EquationTable.h"
 
@@ -92,7 +94,8 @@ void Print_run(QPainter& painter, std::span<const EquationLetter> letters) {
     painter.drawGlyphRun({}, run);
 }
 
-void Print_letters(QPainter& painter, std::span<const EquationLetter> letters) {
+void Print_letters(QPainter& painter, const SetEquation& equation) {
+    std::span<const EquationLetter> letters = equation.letters;
     while (!letters.empty()) {
         const EquationLetter& first = letters.front();
         const auto other = std::find_if(letters.begin(), letters.end(), [&](const EquationLetter& letter) {
@@ -101,6 +104,39 @@ void Print_letters(QPainter& painter, std::span<const EquationLetter> letters) {
         Print_run(painter, {letters.begin(), other});
         letters = {other, letters.end()};
     }
+}
+
+// The letters' outlines, which no hinting moves; made when the equation is first seen.
+const QPainterPath& Outlines(const SetEquation& equation) {
+    static std::unordered_map<const SetEquation*, QPainterPath> made;
+    const auto [place, first] = made.try_emplace(&equation);
+    if (first) {
+        place->second.setFillRule(Qt::WindingFill);
+        for (const EquationLetter& letter : equation.letters) {
+            place->second.addPath(
+                Font_of(letter.font, letter.size).pathForGlyph(letter.letter).translated(letter.x, letter.y));
+        }
+    }
+    return place->second;
+}
+
+// An equation with its letters as `set_letters` sets them and its bars, in the units of the table.
+void Set(const SetEquation& equation, QPainter& painter, const QRectF& place,
+         const std::function<void()>& set_letters) {
+    const double scale = place.width() / equation.box.width;
+    if (scale <= 0.0) {
+        return;
+    }
+    painter.save();
+    painter.translate(place.topLeft());
+    painter.scale(scale, scale);
+    painter.translate(-equation.box.x, -equation.box.y);
+    painter.setPen(Qt::black);
+    set_letters();
+    for (const EquationBar& bar : equation.bars) {
+        painter.fillRect(QRectF{bar.x, bar.y, bar.width, bar.height}, Qt::black);
+    }
+    painter.restore();
 }
 
 } // namespace
@@ -127,10 +163,10 @@ bool Paint_equation(std::string_view key, QPainter& painter, const QRectF& room,
     if (equation == nullptr) {
         return false;
     }
-    const QRectF place = Place(*equation, room, letter, std::nullopt);
-    if (place.isValid()) { // QSvgRenderer would take the whole device without
-        QSvgRenderer{File_of(*equation)}.render(&painter, place);
-    }
+    Set(*equation, painter, Place(*equation, room, letter, std::nullopt), [&] {
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.fillPath(Outlines(*equation), Qt::black);
+    });
     return true;
 }
 
@@ -139,21 +175,7 @@ bool Print_equation(std::string_view key, QPainter& painter, const QRectF& room,
     if (equation == nullptr) {
         return false;
     }
-    const QRectF place = Place(*equation, room, letter, baseline);
-    const double scale = place.width() / equation->box.width;
-    if (scale <= 0.0) {
-        return true;
-    }
-    painter.save();
-    painter.translate(place.topLeft());
-    painter.scale(scale, scale);
-    painter.translate(-equation->box.x, -equation->box.y);
-    painter.setPen(Qt::black);
-    Print_letters(painter, equation->letters);
-    for (const EquationBar& bar : equation->bars) {
-        painter.fillRect(QRectF{bar.x, bar.y, bar.width, bar.height}, Qt::black);
-    }
-    painter.restore();
+    Set(*equation, painter, Place(*equation, room, letter, baseline), [&] { Print_letters(painter, *equation); });
     return true;
 }
 

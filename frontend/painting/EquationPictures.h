@@ -2,10 +2,10 @@
 // the detailed calculations and in the report and have a key in each; they are the right-hand sides, "Rk(a) = " stands
 // beside them as text.
 //
-// The window paints them as vectors, from the SVG files of frontend/pictures/equations, which are compiled in. On paper
-// they are text in fonts of their own (EquationTable.h), so that a document can be searched for them and stays small.
-// The letter size is the em of the mathematical font, what a point size is in text; equations of the same letter size
-// have the same letters.
+// They are letters in fonts of their own (EquationTable.h): the window paints the letters' outlines, on paper they are
+// text, so that a document can be searched for them and stays small. As SVG files they lie in
+// frontend/pictures/equations. The letter size is the em of the mathematical font, what a point size is in text;
+// equations of the same letter size have the same letters.
 #pragma once
 
 #include <QSizeF>

@@ -8,12 +8,12 @@
 #include <QPrinter>
 
 #include <algorithm>
-#include <array>
 
 #include "calc/RuntimeFault.h"
 #include "calc/Version.h"
 #include "data/SafeWrite.h"
 #include "frontend/painting/EquationPictures.h"
+#include "frontend/painting/Faces.h"
 #include "frontend/painting/PictureStore.h"
 #include "frontend/painting/Texts.h"
 #include "report/PrintReport.h"
@@ -34,16 +34,6 @@ constexpr int device_dots_per_inch = 300;
 
 // Texts are measured with letters of this size, whose widths are those of the font's own drawing.
 constexpr int measuring_pixels = 2048;
-
-// A font by name and the one of the same widths that stands in for it.
-struct FontPair {
-    std::string_view name;
-    const char* substitute;
-};
-constexpr std::array<FontPair, 2> font_pairs{{
-    {"arial", "Liberation Sans"},
-    {"Times New Roman", "Liberation Serif"},
-}};
 
 // Whether the print system took the last job. The toolkit sends the job and keeps the answer to itself, so that a
 // printer that is gone, or takes no jobs, would go unnoticed.
@@ -92,14 +82,7 @@ QPointF QtPrintTarget::Mapped(float x, float y) const {
 }
 
 QFont QtPrintTarget::Font() const {
-    QStringList families{Q(font_name_)};
-    for (const FontPair& pair : font_pairs) {
-        if (font_name_ == pair.name) {
-            families << QLatin1String(pair.substitute);
-        }
-    }
-    QFont font;
-    font.setFamilies(families);
+    QFont font{Family_for(font_name_)};
     font.setBold(bold_);
     font.setItalic(italic_);
     // The letters' own widths and nothing else: no hinting, no kerning, no ligatures, which a search would not find.

@@ -1,9 +1,10 @@
 #include "frontend/painting/Texts.h"
 
 #include <QByteArray>
-#include <QFontDatabase>
 
 #include <cmath>
+
+#include "frontend/painting/Faces.h"
 
 namespace tarnvik {
 
@@ -22,15 +23,7 @@ QColor To_colour(std::uint32_t colour) {
 }
 
 QFont Text_font(double points) {
-    static const QString family = [] {
-        for (const char* name : {"Tahoma", "Liberation Sans"}) {
-            if (QFontDatabase::hasFamily(QString::fromLatin1(name))) {
-                return QString::fromLatin1(name);
-            }
-        }
-        return QStringLiteral("sans-serif");
-    }();
-    QFont font{family};
+    QFont font{Sans_family()};
     font.setPointSizeF(points);
     return font;
 }

@@ -18,7 +18,7 @@ std::string U(const QString& text);
 // Red, green and blue of a colour as the screen record holds it.
 QColor To_colour(std::uint32_t colour);
 
-// "Tahoma" where it is installed, otherwise "Liberation Sans" or what the system offers.
+// The window's face, what stands in for "Tahoma" (Faces.h).
 QFont Text_font(double points = 8.0);
 
 // Pixels for a length given at 96 dots per inch.

@@ -6,6 +6,7 @@
 #include <cerrno>
 #include <csignal>
 #include <cstdlib>
+#include <set>
 #include <fcntl.h>
 #include <malloc.h>
 #include <poll.h>
@@ -305,6 +306,35 @@ TEST_F(Program, paints_with_the_program_beside_it) {
     EXPECT_TRUE(fs::exists(folder / "p" / "frmMain" / "Cmd_type(0).png"));
 #endif
 }
+
+#ifdef TARNVIK_WITH_PAINTER
+// The names of a document's fonts, which it has in no order.
+std::set<std::string> Fonts_of(const std::string& pdf) {
+    constexpr std::string_view key = "/BaseFont /";
+    std::set<std::string> names;
+    for (std::size_t at = pdf.find(key); at != std::string::npos; at = pdf.find(key, at + 1)) {
+        const std::size_t begin = at + key.size();
+        names.insert(pdf.substr(begin, pdf.find_first_of("\r\n", begin) - begin));
+    }
+    return names;
+}
+
+TEST_F(Program, a_report_is_set_in_the_delivered_faces_where_no_font_is_installed) {
+    Start({"--set", "P=1", "--report", (folder / "here.pdf").string()});
+    test::Write_file(folder / "none.conf", "<?xml version=\"1.0\"?><fontconfig></fontconfig>");
+    setenv("FONTCONFIG_FILE", (folder / "none.conf").c_str(), 1);
+    Start({"--set", "P=1", "--report", (folder / "bare.pdf").string()});
+    unsetenv("FONTCONFIG_FILE");
+    const std::string here = test::Read_file(folder / "here.pdf");
+    const std::string bare = test::Read_file(folder / "bare.pdf");
+    const std::set<std::string> delivered{"TarnvikSans-Regular", "TarnvikSans-Bold",        "TarnvikSerif-Regular",
+                                          "TarnvikSerif-Bold",   "TarnvikSerif-BoldItalic", "TarnvikEquations1",
+                                          "TarnvikEquations2",   "TarnvikEquations3"};
+    EXPECT_EQ(Fonts_of(here), delivered);
+    EXPECT_EQ(Fonts_of(bare), delivered);
+    EXPECT_NEAR(static_cast<double>(bare.size()), static_cast<double>(here.size()), 100.0); // the clock's digits differ
+}
+#endif
 
 TEST_F(Program, a_saved_project_is_the_same_from_any_folder) {
     const ProgramRun saved = Start({"--json", "--set", "P=4", "--save", (folder / "a.tnvik").string()});

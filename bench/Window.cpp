@@ -237,9 +237,6 @@ int Start_once(QApplication& application, std::string_view what, Clock::time_poi
         return 0;
     }
     constexpr QSize as_large{1000, 700};
-    if (what == of_text) {
-        QApplication::setFont(tarnvik::Text_font());
-    }
     Plain_window window{as_large, what == of_text};
     window.show();
     Run_to_first_paint(window, begun);

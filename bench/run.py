@@ -63,6 +63,18 @@ def run(command, lines=None, piped=False):
     return (wall, usage) if process.returncode in HOLDS_OR_NOT else None
 
 
+def run_apart(command, parts):
+    """As many programs at once as there are parts of the lines, one each: what the cores give at most. Wall time."""
+    begun = time.perf_counter()
+    processes = []
+    for part in parts:
+        with open(part, "rb") as stdin:
+            processes.append(subprocess.Popen(command, stdin=stdin, stdout=subprocess.DEVNULL,
+                                              stderr=subprocess.DEVNULL))
+    done = [process.wait() in HOLDS_OR_NOT for process in processes]
+    return time.perf_counter() - begun if all(done) else None
+
+
 def memory(command, lines, folder):
     """The most memory of a run in MB. What the system tells of a process includes the one that started it, here Python,
     which is larger: one that is small stands in between."""
@@ -73,6 +85,15 @@ def memory(command, lines, folder):
         subprocess.run([TIME, "-q", "-f", "%M", "-o", told, *command], stdin=stdin, stdout=subprocess.DEVNULL,
                        stderr=subprocess.DEVNULL, check=False)
     return int(told.read_text().split()[-1]) / 1024
+
+
+def parts_of(folder, count):
+    """The lines of the batches in as many files as there are cores."""
+    cores = os.cpu_count()
+    files = [folder / f"lines-{i}.jsonl" for i in range(cores)]
+    for i, file in enumerate(files):
+        file.write_text("".join(line(j) for j in range(i * count // cores, (i + 1) * count // cores)), encoding="ascii")
+    return files
 
 
 def rows(folder, count):
@@ -130,8 +151,8 @@ def print_table(programs, measured, wanted):
                 print(f"| {name} | {program} | cannot do it | | | | |")
 
 
-def print_threads(programs, measured, wanted):
-    """A row with --jobs beside the same one without."""
+def print_threads(programs, measured, wanted, apart):
+    """A row with --jobs beside the same one without, and beside programs apart, with nothing in common."""
     for name, arguments, _, _, _ in wanted:
         if "--jobs" in arguments:
             for program in programs:
@@ -139,6 +160,11 @@ def print_threads(programs, measured, wanted):
                 if alone.wall and more.wall:
                     print(f"{name}, {program}: {min(alone.wall) / min(more.wall):.2f} x as fast, with "
                           f"{min(more.cpu) / min(alone.cpu):.2f} x the processor time")
+    for program, walls in apart.items():
+        alone = measured["batch of three fields, file", program]
+        if alone.wall and walls:
+            print(f"the machine itself, a program of one thread for each core with its part of the lines, {program}: "
+                  f"{min(alone.wall) / min(walls):.2f} x as fast")
 
 
 def run_benchmarks():
@@ -163,7 +189,13 @@ def main():
         make_projects(options.programs / "tarnvik-check", folder)
         wanted = rows(folder, options.lines)
         measured = {(row[0], program): Measured() for row in wanted for program in programs}
+        parts = parts_of(folder, options.lines)
+        apart = {program: [] for program in programs}
         for _ in range(options.runs):
+            for program in programs:
+                wall = run_apart([str(program / "tarnvik-check"), *THREE], parts)
+                if wall:
+                    apart[program].append(wall)
             for what, arguments, lines, piped, _ in wanted:
                 for program in programs:
                     once = run([str(program / "tarnvik-check"), *arguments], lines, piped)
@@ -174,7 +206,7 @@ def main():
                 measured[what, program].memory = memory([str(program / "tarnvik-check"), *arguments], lines, folder)
         print_table(programs, measured, wanted)
         print()
-        print_threads(programs, measured, wanted)
+        print_threads(programs, measured, wanted, apart)
     run_benchmarks()
 
 

@@ -6,10 +6,10 @@
 #include <cerrno>
 #include <csignal>
 #include <cstdlib>
-#include <set>
 #include <fcntl.h>
 #include <malloc.h>
 #include <poll.h>
+#include <set>
 #include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>

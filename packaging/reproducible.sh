@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # reproducible.sh: builds the packages of HEAD twice, in folders of different names, and compares them bit for bit. Takes
-# as long as two whole builds.
+# as long as two builds of the programs.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 

@@ -23,9 +23,12 @@ mkdir -p "$out" "$work/source"
 git archive "$revision" | tar -x -C "$work/source"
 cd "$work/source"
 
-cmake --preset package
-cmake --build --preset package
-if [ "${TARNVIK_SKIP_TESTS:-}" != 1 ]; then
+if [ "${TARNVIK_SKIP_TESTS:-}" = 1 ]; then
+    cmake --preset package -DTARNVIK_TESTS=OFF
+    cmake --build --preset package
+else
+    cmake --preset package
+    cmake --build --preset package
     ctest --preset package --parallel "$(nproc)" --output-on-failure
 fi
 version=$(sed -n 's/^project(tarnvik VERSION \([0-9.]*\).*/\1/p' CMakeLists.txt)

@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
 # test_packages.sh FOLDER: installs the packages of FOLDER in a bare Debian 12 root and looks whether they do what they
 # promise: both programs run, a report is painted, edited tables outlive an upgrade, a purge leaves nothing behind. Needs
-# root, mmdebstrap and the network. BARE_ROOT is a
-# tar file of such a root, made before. With SHOT=FILE.png (and Xvfb, jwm, xdotool, ImageMagick) the window is opened too.
+# root, mmdebstrap and the network. BARE_ROOT is a tar file of such a root, made before. With SHOT=FILE.png (and Xvfb, jwm,
+# xdotool, ImageMagick) the window is driven too: it opens a project, prints, and saves factors.
 set -euo pipefail
 debs=$(realpath "$1")
 shot=$(realpath -m "${SHOT:-}")
@@ -72,10 +72,36 @@ if [ -n "${SHOT:-}" ]; then
     DISPLAY=:93 timeout 60 xdotool search --sync --onlyvisible --name '^Tarnvik' >/dev/null
     sleep 3
     DISPLAY=:93 import -window root "$shot"
-    DISPLAY=:93 xdotool key ctrl+q
-    sleep 1
     test -f "$root/home/engineer/.local/share/tarnvik/TarnvikMaterial.csv"
     tell "the window opens a project by xdg-open and fills the user's folder: $shot"
+
+    main=$(DISPLAY=:93 xdotool search --onlyvisible --name '^Tarnvik' | tail -1)
+    DISPLAY=:93 xdotool key ctrl+p
+    DISPLAY=:93 timeout 20 xdotool search --sync --onlyvisible --name '^Print$' >/dev/null
+    sleep 1
+    DISPLAY=:93 xdotool key Return
+    sleep 2
+    printed=$(find "$root/home/engineer" "$root/tmp" "$root"/*.pdf -maxdepth 1 -name '*.pdf' -newer "$shot" 2>/dev/null | head -1)
+    head -c 5 "$printed" | grep -q '%PDF-'
+    tell "it prints a PDF: ${printed#"$root"}"
+
+    # The factor of sawn timber, saved: places are pixels of the window at 96 dpi.
+    DISPLAY=:93 xdotool mousemove --window "$main" 57 8 click 1
+    setup=$(DISPLAY=:93 timeout 20 xdotool search --sync --onlyvisible --name '^Setup$' | tail -1)
+    sleep 1
+    DISPLAY=:93 xdotool mousemove --window "$setup" 264 97 click --repeat 2 1 key ctrl+a type 1.15
+    DISPLAY=:93 xdotool key Tab
+    sleep 1
+    DISPLAY=:93 import -window root "${shot%.png}-setup.png"
+    DISPLAY=:93 xdotool mousemove --window "$setup" 184 313 click 1
+    sleep 1
+    saved=$root/home/engineer/.local/share/tarnvik/Tarviksetup.csv
+    grep -q '1[.,]15' "$saved"
+    tell "it saves factors into the user's folder: ${saved#"$root"}"
+    DISPLAY=:93 xdotool key alt+F4
+    sleep 1
+    DISPLAY=:93 xdotool key ctrl+q
+    sleep 1
 fi
 
 # An upgrade keeps what an administrator has edited.

@@ -150,7 +150,7 @@ setup=$(await '^Setup$')
 shot setup
 click "$setup" 79 136
 shot setup-norwegian
-click "$setup" 263 243
+click "$setup" 278 313
 gone '^Setup$'
 shot norwegian
 for type in 1 2 3 4 5; do

@@ -35,7 +35,13 @@ version=$(sed -n 's/^project(tarnvik VERSION \([0-9.]*\).*/\1/p' CMakeLists.txt)
 
 find . -exec touch --no-dereference --date="@$SOURCE_DATE_EPOCH" {} +
 (cd build/package && cpack)
-cp build/package/*.deb "$out/"
+# CPack gives folders the time of packing: packed once more, with all times those of the revision.
+for deb in build/package/*.deb; do
+    dpkg-deb -R "$deb" "$work/unpacked"
+    find "$work/unpacked" -exec touch --no-dereference --date="@$SOURCE_DATE_EPOCH" {} +
+    dpkg-deb --root-owner-group -Zxz -b "$work/unpacked" "$out/$(basename "$deb")"
+    rm -rf "$work/unpacked"
+done
 
 name=tarnvik-$version-$(dpkg --print-architecture)
 cmake --install build/package --component portable --prefix "$work/$name" --strip

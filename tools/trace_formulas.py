@@ -82,11 +82,11 @@ NO_FORMULAS = ("Arithmetic", "Text")
 
 # The distance of the standard behind each number of spacing/Rules.cpp.
 BOLT_CLAUSES = {
-    "d3": "a4,c", "d4": "a2, a3,c", "d7": "a3,t", "Nd": "a1, chosen", "d4K": "a1", "end_7d": "a3,t", "loaded_3d": "a4,t", "loaded_4d": "a3,c",
+    "d3": "a4,c", "d4": "a2, a3,c, at 90° a4,t", "d7": "a3,c at 90°", "Nd": "a1, chosen", "d4K": "a1", "end_7d": "a3,t", "loaded_3d": "a4,t", "loaded_4d": "a3,c",
     "loaded_4d_at_0": "a3,c", "across_K": "a1 seen across, at least a2", "across_N": "a1 seen across, at least a2", "only_7d": "a3,t",
     "only_80": "a3,t", "no_number": "a3,t"}
 CONNECTOR_CLAUSES = {
-    "D06": "a4,c", "D08": "a4,t", "D12": "a2, a3,c", "D15": "a1", "D20": "a3,t", "along_N": "a1, chosen", "along_K": "a1", "loaded_D": "a4,t",
+    "D06": "a4,c", "D08": "a4,t", "D12": "a2, a3,c", "D15": "a3,c at 90°", "D20": "a3,t", "along_N": "a1, chosen", "along_K": "a1", "loaded_D": "a4,t",
     "end_D": "a3,c", "end_D_at_0": "a3,c", "across_K_D": "a1 seen across, at least a2", "across_r": "a1 seen across, at least a2",
     "across_r_or_0": "a1 seen across, at least a2", "no_number_D": "a4,c"}
 

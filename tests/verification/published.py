@@ -202,7 +202,7 @@ def example_5(ask):
         ("bolt and plate in a plane", "8.10 (1)", "13670", both, ours, FACTOR),
         ("design in a plane", "(2.17)", "9464", both * 0.9 / 1.3, ours * 0.9 / 1.3, FACTOR),
         ("F_d of 4 planes, kN", "(2.17)", "37.9", 4 * both * 0.9 / 1.3 / KN, 4 * ours * 0.9 / 1.3 / KN, FACTOR),
-        ("least thickness 2.25 h_e and 3.75 h_e", "8.10 (4)", "13.5, 22.5", None, None, "not checked by the program"),
+        ("least thickness 2.25 h_e and 3.75 h_e", "8.10 (3), 8.9 (2)", "13.5, 22.5", None, None, "not checked by the program"),
         ("a2, bolts", "table 8.4", "40", *a["a2"], ""), ("a3,t, bolts", "table 8.4", "80", *a["a3,t"], ""),
         ("a4,c, bolts", "table 8.4", "30", *a["a4,c"], ""),
         ("a2, plates", "table 8.8", "60", 1.2 * 50, distance(ask, "2.4. ", "Cb2", **at), ""),

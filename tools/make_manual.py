@@ -1,17 +1,19 @@
 #!/usr/bin/env python3
-"""make_manual.py: makes the manual, docs/manual/Tarnvik User & Theory Manual.pdf, from the Markdown beside it.
+"""make_manual.py: makes the manual, docs/manual/Tarnvik User & Theory Manual.pdf, from the Markdown beside it, and the
+picture of the window in README.md.
 
-    tools/make_manual.py [FOLDER_OF_PROGRAMS]           writes the PDF and manifest.txt
+    tools/make_manual.py [FOLDER_OF_PROGRAMS]           writes the PDF, window.png and manifest.txt
     tools/make_manual.py --check [FOLDER_OF_PROGRAMS]   exit status 1 where the PDF is older than what it shows
 
 The programs are those of build/release/bin unless another folder is named; both ways need tarnvik-check, tarnvik-paint
 and manual_walk in it. The first one also needs the Debian packages of `manual_packages` in tools/setup.sh.
 
 What the manual shows of the program is made anew each time: windows, sketches, reports, tables, what the tool prints.
-manifest.txt holds a hash of each such piece, of each source and of the PDF. Hand calculations are compared with the
+manifest.txt holds a hash of each such piece, of each source, of the PDF and of the picture. Hand calculations are compared with the
 program while the chapters are read. Lines of the Markdown that begin with "%%" ask for such a piece:
 
-    %% figure FILE WIDTH_IN_MM CAPTION     a picture by its key, a window of manual_walk, a page of a report
+    %% figure FILE WIDTH_IN_MM CAPTION     a picture by its key, a window of manual_walk, a page of a report: report-heel:1,
+                                           or report-heel:1:8,12,6,0, that page less so many mm left, below, right, above
     %% row WIDTHS FILE... | CAPTION        several beside each other, of one width or "40,60"
     %% table NAME                          one of the tables below
     %% run COMMAND                         a command line and what it prints
@@ -34,6 +36,7 @@ import tempfile
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 MANUAL = ROOT / "docs" / "manual"
 PDF = MANUAL / "Tarnvik User & Theory Manual.pdf"
+WINDOW = MANUAL / "window.png"
 MANIFEST = MANUAL / "manifest.txt"
 ENVIRONMENT = {"PATH": os.environ["PATH"], "LC_ALL": "C.UTF-8", "LANG": "C.UTF-8"}
 
@@ -89,10 +92,13 @@ class Facts:
         return json.loads((self.folder / name).read_text())
 
     def picture(self, name):
-        """The file of a picture, ready for the page."""
-        page = None
+        """The file of a picture, ready for the page, and what of it is shown."""
+        part = ""
         if ":" in name:
-            name, page = name.split(":")
+            name, page, *cut = name.split(":")
+            part = f",page={page}"
+            if cut:
+                part += ",clip,trim=" + " ".join(side + "mm" for side in cut[0].split(","))
             self.run_program(shlex.split(REPORTS[name]) + ["--with", "report", "--fields", "uf"], keep=None)
             file = self.folder / (name + ".pdf")
             if not file.exists():
@@ -106,7 +112,7 @@ class Facts:
             file = source.with_suffix(".pdf")
             if not file.exists() and shutil.which("rsvg-convert"):
                 subprocess.run(["rsvg-convert", "-f", "pdf", "-o", file, source], check=True)
-        return file, page
+        return file, part
 
     def report_calls(self, joint):
         """The calls that print a report, without day and time."""
@@ -152,7 +158,7 @@ def inputs_of(facts, window, caption):
             words, clause = words + of + clause, ""
         words = re.sub(",$", ".", words.rstrip())
         rows.append([escaped(name), escaped(words), escaped(clause.rstrip("."))])
-    return table(r"L{42mm}L{88mm}L{27mm}", ["Input", "What it is, unit, range, effect", "EN 1995-1-1"], rows, caption)
+    return table(r"L{42mm}L{87.5mm}L{27.5mm}", ["Input", "What it is, unit, range, effect", "EN 1995-1-1"], rows, caption)
 
 
 def table_inputs_main(facts):
@@ -283,7 +289,8 @@ def table_unchecked(facts):
     listed = re.search(r'<ul class="unchecked">(.*?)</ul>', sheet.read_text(), re.DOTALL).group(1)
     facts.keep("lines of the check sheet", listed)
     lines = [re.sub(r"<sub>(.*?)</sub>", r"\\textsubscript{\1}", line) for line in re.findall(r"<li>(.*?)</li>", listed)]
-    return "\n".join([r"\begin{itemize}", *(r"\item " + line for line in lines), r"\end{itemize}"])
+    return "\n".join([r"\begin{itemize}\setlength{\itemsep}{0pt}\setlength{\parskip}{0pt}",
+                      *(r"\item " + line for line in lines), r"\end{itemize}"])
 
 
 TABLES = {name[len("table_"):].replace("_", "-"): run for name, run in list(globals().items()) if name.startswith("table_")}
@@ -300,9 +307,8 @@ def figure(files, width, caption, facts):
     shown = []
     widths = width.split(",") * (1 if "," in width else len(files))
     for name, width in zip(files, widths):
-        file, page = facts.picture(name)
-        option = f",page={page}" if page else ""
-        shown.append(rf"\includegraphics[width={width}mm{option}]{{{file}}}")
+        file, part = facts.picture(name)
+        shown.append(rf"\includegraphics[width={width}mm{part}]{{{file}}}")
     return raw("\n".join([r"\begin{figure}[H]\centering", r"\hspace{4mm}".join(shown), rf"\caption{{{caption}}}",
                           r"\end{figure}"]))
 
@@ -319,7 +325,10 @@ def transcript(command, facts, first=None, last=None):
             break
         cut = lines[-1].rfind(" --", 0, 84)
         shown = "\n".join([*lines[:-1], lines[-1][:cut] + " \\", "    " + lines[-1][cut + 1:]])
-    return "\n```\n$ " + shown + "\n" + "\n".join(printed) + "\n```\n"
+    shown = "$ " + shown + "\n" + "\n".join(printed)
+    if max(len(line) for line in printed) > 110:
+        return raw("\\begin{wide}\n" + shown + "\n\\end{wide}")
+    return "\n```\n" + shown + "\n```\n"
 
 
 def rounded(value, picture):
@@ -339,12 +348,22 @@ class Joint:
             problems.append(f"{name}: the manual has {value}, the program {found}")
 
 
+def bold_heading(row):
+    cells = [cell.strip() for cell in row.strip("|").split("|")]
+    return "| " + " | ".join(f"**{cell}**" if cell else "" for cell in cells) + " |"
+
+
 def chapter(text, facts):
     """The chapter with its pieces in place of the lines that ask for them."""
     out, joint = [], None
-    for line in text.split("\n"):
+    lines = text.split("\n")
+    for line, following in zip(lines, [*lines[1:], ""]):
         words = line.split()
-        if not line.startswith("%% "):
+        if line.startswith(("# ", "## ")):  # no heading at the foot of a page
+            out += [raw(r"\Needspace{60mm}" if words[0] == "#" else r"\Needspace{35mm}"), line]
+        elif following.startswith("|:"):
+            out.append(bold_heading(line))
+        elif not line.startswith("%% "):
             out.append(line)
         elif words[1] == "figure":
             out.append(figure([words[2]], words[3], " ".join(words[4:]), facts))
@@ -387,6 +406,8 @@ def make_pdf(markdown, folder):
     for line in re.findall(r"Overfull \\hbox \(\d\d[\d.]*pt too wide\)[^\n]*|Missing character[^\n]*", log):
         print("layout:", line)
     shutil.copy(folder / "manual.pdf", PDF)
+    subprocess.run(["pdftocairo", "-png", "-r", "110", "-singlefile", folder / "window-holds.pdf", WINDOW.with_suffix("")],
+                   check=True)
 
 
 def main():
@@ -404,8 +425,9 @@ def main():
                 chapters.append(chapter(source.read_text(), facts))
         if not check and not problems:
             make_pdf("\n\n".join(chapters), pathlib.Path(name))
-        if PDF.exists():
-            facts.keep(PDF.name, PDF.read_bytes())
+        for made in (PDF, WINDOW):
+            if made.exists():
+                facts.keep(made.name, made.read_bytes())
     listed = "".join(f"{code}  {name}\n" for name, code in sorted(facts.hashes.items()))
     if check:
         kept = set(MANIFEST.read_text().splitlines())

@@ -16,7 +16,7 @@
 
 namespace tarnvik {
 
-// The minimum distances of EN 1995-1-1 (tables 8.4 and 8.7 to 8.9) for the open connection, cleared and refilled in
+// The minimum distances of EN 1995-1-1 (tables 8.4 and 8.8) for the open connection, cleared and refilled in
 // every pass. Family a belongs to member 1, family b to member 2. S.. are the values for bolts, C.. for connectors, in
 // mm; .._txt the text of the rule that gave the value; .._lbl the label, empty while the case has no such distance.
 // The texts are literals.

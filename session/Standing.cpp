@@ -37,8 +37,8 @@ constexpr std::array<CheckRow, check_count> check_rows{{
     {{"Splitting",                          "Tverrstrekk"},                        "8.1.4"},
     {{"Distances of bolts, member 1",       "Avstander for bolter, del 1"},        {"table 8.4", "tabell 8.4"}},
     {{"Distances of bolts, member 2",       "Avstander for bolter, del 2"},        {"table 8.4", "tabell 8.4"}},
-    {{"Distances of connectors, member 1",  "Avstander for forbindere, del 1"},    {"8.10, tables 8.7 to 8.9", "8.10, tabell 8.7 til 8.9"}},
-    {{"Distances of connectors, member 2",  "Avstander for forbindere, del 2"},    {"8.10, tables 8.7 to 8.9", "8.10, tabell 8.7 til 8.9"}},
+    {{"Distances of connectors, member 1",  "Avstander for forbindere, del 1"},    {"8.10, table 8.8", "8.10, tabell 8.8"}},
+    {{"Distances of connectors, member 2",  "Avstander for forbindere, del 2"},    {"8.10, table 8.8", "8.10, tabell 8.8"}},
 }};
 
 // A failure mode of single or of double shear.

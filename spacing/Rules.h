@@ -1,5 +1,5 @@
 // Minimum spacings and edge and end distances of bolts (EN 1995-1-1 table 8.4) and of tooth-plate connectors
-// (tables 8.7 to 8.9), laid out over the geometry of each case: every distance as a number in mm and as the text of its
+// (table 8.8), laid out over the geometry of each case: every distance as a number in mm and as the text of its
 // rule.
 //
 // Family a lies in member 1, family b in member 2. The first distances of a family lie across the member, from edge to

@@ -1,5 +1,6 @@
 #include "frontend/main/frmMain.h"
 
+#include <QAbstractButton>
 #include <QAction>
 #include <QCloseEvent>
 #include <QDialog>
@@ -47,6 +48,11 @@ frmMain::frmMain(ConnectionState& state, const Services& services, Folders folde
     connect(&projects_, &ProjectMenu::Stored, &marks_, &Marks::Show);
     connect(&editing_, &BoxEditing::Refused, &marks_, &Marks::Show);
     connect(&boxes_, &InputBoxes::Splitting_checked, &marks_, &Marks::Show);
+    // What changes the state without a pass; the selections, which were connected before, have taken the choice.
+    connect(&controls_.Find<QAbstractButton>("Check_man"), &QAbstractButton::toggled, &marks_, &Marks::Show);
+    connect(&controls_.Find<QAbstractButton>("Check_man"), &QAbstractButton::toggled, &recovery_, &Recovery::Note);
+    connect(&boxes_, &InputBoxes::Splitting_checked, &recovery_, &Recovery::Note);
+    connect(&editing_, &BoxEditing::Refused, &recovery_, &Recovery::Note);
     Connect_windows();
 }
 

@@ -52,6 +52,23 @@ TEST_F(RecoveryOfWork, the_label_says_what_is_not_saved_in_both_languages) {
     EXPECT_EQ(Text("Lbl_unsaved"), "Ikke lagret");
 }
 
+// A typed he changes the project without a pass.
+TEST_F(RecoveryOfWork, a_typed_he_is_not_saved_either) {
+    Start("Eng");
+    Click("Check_man");
+    EXPECT_EQ(Text("Lbl_unsaved"), "Not saved");
+    Click("Check_man");
+    EXPECT_EQ(Text("Lbl_unsaved"), "");
+    Click("Check_man");
+    dialogs.answer = (work / "house.tnvik").string();
+    Menu("mnuFileItem(3)");
+    EXPECT_EQ(Text("Lbl_unsaved"), "");
+    Enter_value("Txt_man_he", "50");
+    EXPECT_EQ(Text("Lbl_unsaved"), "Not saved");
+    Be_idle();
+    EXPECT_EQ(Files().size(), 1U);
+}
+
 TEST_F(RecoveryOfWork, a_save_ends_it_and_a_failed_save_does_not) {
     Start();
     Enter_value("Txt_last", "17");

@@ -2,13 +2,10 @@
 #include <QApplication>
 #include <QMessageBox>
 
-#include <algorithm>
 #include <filesystem>
 #include <iostream>
 #include <optional>
 #include <string>
-#include <system_error>
-#include <vector>
 
 #include "calc/RuntimeFault.h"
 #include "calc/Version.h"
@@ -20,6 +17,8 @@
 #include "frontend/painting/Icon.h"
 #include "frontend/painting/Texts.h"
 #include "frontend/services/QtServices.h"
+#include "platform/Machine.h"
+#include "platform/Path.h"
 #include "session/SystemClock.h"
 
 namespace {
@@ -35,12 +34,15 @@ int Give_up(const std::string& text) {
 
 // What the command line alone decides, on the terminal and without a display; nothing where the window is to open.
 std::optional<int> Answer(const tarnvik::CommandLine& line, const fs::path& program) {
+    if (!line.error.empty() || line.help || line.version) {
+        tarnvik::Attach_terminal();
+    }
     if (!line.error.empty()) {
         std::cerr << "tarnvik: " << line.error << "\n";
         return 2;
     }
     if (line.help) {
-        std::cout << tarnvik::Command_line_help(tarnvik::Find_data_folder(program, line.data).folder);
+        std::cout << tarnvik::Command_line_help(tarnvik::Find_data_folder(program, tarnvik::Path_of(line.data)).folder);
         return 0;
     }
     if (line.version) {
@@ -50,16 +52,9 @@ std::optional<int> Answer(const tarnvik::CommandLine& line, const fs::path& prog
     return std::nullopt;
 }
 
-// The folder of the program itself, links followed; that of the call where the system does not tell.
-fs::path Program_folder(const char* call) {
-    std::error_code error;
-    const fs::path program = fs::canonical("/proc/self/exe", error);
-    return (error ? fs::absolute(call) : program).parent_path();
-}
-
 // The user's own data folder is filled at the first start; where that cannot be, the delivered files are read.
 tarnvik::Folders Open_folders(const fs::path& program, const std::string& asked) {
-    const tarnvik::DataFolder data = tarnvik::Find_data_folder(program, asked);
+    const tarnvik::DataFolder data = tarnvik::Find_data_folder(program, tarnvik::Path_of(asked));
     bool filled = false;
     try {
         filled = tarnvik::Fill_data_folder(data);
@@ -101,9 +96,8 @@ int Run_window(int argc, char** argv, const tarnvik::CommandLine& line, const fs
 } // namespace
 
 int main(int argc, char** argv) {
-    const tarnvik::CommandLine line =
-        tarnvik::Parse_command_line(std::vector<std::string>(argv + std::min(argc, 1), argv + argc));
-    const fs::path program = Program_folder(argv[0]);
+    const tarnvik::CommandLine line = tarnvik::Parse_command_line(tarnvik::Arguments(argc, argv));
+    const fs::path program = tarnvik::Program_path(argv[0]).parent_path();
     if (const std::optional<int> status = Answer(line, program)) {
         return *status;
     }

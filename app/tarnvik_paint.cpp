@@ -1,19 +1,19 @@
 // main() of the program that paints for the headless tool.
-#include <unistd.h>
-
 #include <cstdio>
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "calc/Text.h"
 #include "check/Paint_channel.h"
 #include "check/Paint_program.h"
 #include "frontend/services/QtRendering.h"
+#include "platform/Machine.h"
+#include "platform/Partner.h"
+#include "platform/Path.h"
 #include "session/SystemClock.h"
 
 int main(int argc, char** argv) {
-    const std::vector<std::string> arguments(argv + 1, argv + argc);
+    const std::vector<std::string> arguments = tarnvik::Arguments(argc, argv);
     const bool pictures = arguments.size() == 2 && arguments[0] == tarnvik::paint_pictures;
     const bool report = arguments.size() == 3 && arguments[0] == tarnvik::paint_report;
     if (!pictures && !report) {
@@ -23,11 +23,11 @@ int main(int argc, char** argv) {
     tarnvik::Set_decimal_sign(tarnvik::System_decimal_sign());
     int name_alone = 1; // the arguments are none of the toolkit's
     tarnvik::QtRendering rendering{name_alone, argv};
-    tarnvik::PaintChannel channel{STDIN_FILENO};
+    tarnvik::PaintChannel channel{tarnvik::partner_channel};
     if (pictures) {
-        tarnvik::Serve_pictures(channel, rendering, arguments[1]);
+        tarnvik::Serve_pictures(channel, rendering, tarnvik::Path_of(arguments[1]));
     } else {
-        tarnvik::Serve_report(channel, rendering, arguments[1], arguments[2]);
+        tarnvik::Serve_report(channel, rendering, tarnvik::Path_of(arguments[1]), arguments[2]);
     }
     return 0;
 }

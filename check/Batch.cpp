@@ -21,6 +21,7 @@
 #include "check/Line_check.h"
 #include "check/Nearest.h"
 #include "check/Progress.h"
+#include "platform/Path.h"
 
 namespace tarnvik {
 
@@ -78,7 +79,7 @@ private:
         if (block.lines.empty() && !(more_ && (more_ = lines_.Next(block.lines)))) {
             return false;
         }
-        number_ += std::count(block.lines.begin(), block.lines.end(), '\n');
+        number_ += static_cast<long>(std::count(block.lines.begin(), block.lines.end(), '\n'));
         return true;
     }
 
@@ -245,7 +246,7 @@ int Run_batch(const Options& options, const ConnectionState& fresh, std::istream
               std::ostream& err) {
     if (options.sheets) {
         std::error_code error;
-        std::filesystem::create_directories(*options.sheets, error);
+        std::filesystem::create_directories(Path_of(*options.sheets), error);
         if (error) {
             throw UsageError{"--sheets: " + Quoted(*options.sheets) + " cannot be made"};
         }

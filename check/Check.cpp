@@ -11,6 +11,7 @@
 #include "check/Tool.h"
 #include "data/Folders.h"
 #include "data/Startup.h"
+#include "platform/Path.h"
 #include "ports/Rendering.h"
 
 namespace tarnvik {
@@ -41,14 +42,14 @@ int Carry_out(Options options, const std::filesystem::path& program_folder, std:
         if (rendering == nullptr) {
             Refuse_painting("--pictures");
         }
-        const int written = rendering->Write_pictures(*options.pictures);
+        const int written = rendering->Write_pictures(Path_of(*options.pictures));
         out << written << " pictures written to " << *options.pictures << "\n";
         return exit_holds;
     }
     if (options.report && rendering == nullptr) {
         Refuse_painting("--report");
     }
-    const std::filesystem::path folder = Readable_folder(Find_data_folder(program_folder, options.data));
+    const std::filesystem::path folder = Readable_folder(Find_data_folder(program_folder, Path_of(options.data)));
     return Tool{std::move(options), in, out, err, rendering}.Run(folder);
 }
 

@@ -12,6 +12,7 @@
 #include "check/Sheets.h"
 #include "check/Validation.h"
 #include "data/SafeWrite.h"
+#include "platform/Path.h"
 
 namespace tarnvik {
 
@@ -170,7 +171,7 @@ int LineCheck::Write_sheet(long number, Answers& answers) {
         return exit_stopped;
     }
     try {
-        Safe_write(std::filesystem::path{*options_.sheets} / name, Sheet_of(*s_, judge_, clock_.Now()), {OldTail::drop},
+        Safe_write(Path_of(*options_.sheets) / Path_of(name), Sheet_of(*s_, judge_, clock_.Now()), {OldTail::drop},
                    "Write_sheet");
     } catch (const RuntimeFault& fault) {
         Complain(answers, number, s_->Id, name + ": cannot be written: " + std::string{fault.description});

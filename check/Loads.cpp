@@ -16,6 +16,7 @@
 #include "check/Status.h"
 #include "check/Table.h"
 #include "data/Lines.h"
+#include "platform/Path.h"
 
 namespace tarnvik {
 
@@ -32,7 +33,7 @@ constexpr std::array<std::string_view, 3> columns{"name", "force", "load"};
 
 std::string Bytes(const std::string& path) {
     try {
-        std::ifstream file = Open_text(path, "Read_loads");
+        std::ifstream file = Open_text(Path_of(path), "Read_loads");
         return {std::istreambuf_iterator<char>{file}, {}};
     } catch (const RuntimeFault& fault) {
         Refuse(path, 0, "cannot be read: " + std::string{fault.description});

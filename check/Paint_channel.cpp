@@ -1,8 +1,5 @@
 #include "check/Paint_channel.h"
 
-#include <sys/socket.h>
-#include <unistd.h>
-
 #include <algorithm>
 #include <array>
 #include <functional>
@@ -11,6 +8,7 @@
 #include <nlohmann/json.hpp>
 
 #include "calc/RuntimeFault.h"
+#include "platform/Partner.h"
 
 namespace tarnvik {
 
@@ -171,7 +169,7 @@ void Serve(PaintChannel& channel, const std::function<int()>& work) {
 } // namespace
 
 PaintChannel::~PaintChannel() {
-    close(socket_);
+    Close_channel(channel_);
 }
 
 void PaintChannel::Send(const Json& line) {
@@ -182,7 +180,7 @@ void PaintChannel::Send(const Json& line) {
 void PaintChannel::Flush() {
     std::string_view rest = out_;
     while (!rest.empty()) {
-        const ssize_t sent = send(socket_, rest.data(), rest.size(), MSG_NOSIGNAL);
+        const long sent = Send_some(channel_, rest);
         if (sent <= 0) {
             break; // the other side is gone: the next Receive tells
         }
@@ -196,7 +194,7 @@ std::optional<Json> PaintChannel::Receive() {
     std::size_t end = in_.find('\n');
     while (end == std::string::npos) {
         std::array<char, 4096> block; // NOLINT(cppcoreguidelines-pro-type-member-init): read as far as it is filled
-        const ssize_t count = recv(socket_, block.data(), block.size(), 0);
+        const long count = Receive_some(channel_, block.data(), block.size());
         if (count <= 0) {
             return std::nullopt;
         }

@@ -1,4 +1,4 @@
-// How the tool and the program that paints for it talk: a line of JSON each, over a socket.
+// How the tool and the program that paints for it talk: a line of JSON each, over a channel (platform/Partner.h).
 //
 // From the tool come the calls of a report in their order, the name of an operation of PrintTarget and its arguments:
 //
@@ -33,8 +33,8 @@ namespace tarnvik {
 
 class PaintChannel {
 public:
-    // Takes the socket over.
-    explicit PaintChannel(int socket) : socket_(socket) {}
+    // Takes its end over.
+    explicit PaintChannel(int channel) : channel_(channel) {}
     PaintChannel(const PaintChannel&) = delete;
     PaintChannel& operator=(const PaintChannel&) = delete;
     ~PaintChannel();
@@ -47,7 +47,7 @@ public:
     std::optional<nlohmann::json> Receive();
 
 private:
-    int socket_;
+    int channel_;
     std::string out_, in_;
 };
 

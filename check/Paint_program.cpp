@@ -1,18 +1,17 @@
 #include "check/Paint_program.h"
 
-#include <spawn.h>
-#include <sys/socket.h>
-#include <sys/wait.h>
-#include <unistd.h>
-
 #include <array>
+#include <cstdint>
 #include <memory>
 #include <string_view>
+#include <system_error>
 #include <utility>
 #include <vector>
 
 #include "calc/RuntimeFault.h"
 #include "check/Paint_channel.h"
+#include "platform/Partner.h"
+#include "platform/Path.h"
 #include "session/SystemClock.h"
 
 namespace tarnvik {
@@ -27,55 +26,49 @@ public:
     Work& operator=(const Work&) = delete;
     ~Work() {
         channel_.reset(); // the end of its input ends it
-        waitpid(process_, nullptr, 0);
+        Wait_for(process_);
     }
 
     PaintChannel& Channel() { return *channel_; }
 
 private:
     std::unique_ptr<PaintChannel> Start(std::vector<std::string> command, std::string_view where) {
-        std::array<int, 2> ends{};
-        if (socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends.data()) != 0) {
+        try {
+            const std::array<int, 2> ends = Make_channel();
+            auto channel = std::make_unique<PaintChannel>(ends[0]);
+            process_ = Start_program(std::move(command), ends[1]);
+            return channel;
+        } catch (const std::system_error&) {
             Raise(fault_path_access, where);
         }
-        auto channel = std::make_unique<PaintChannel>(ends[0]);
-        std::vector<char*> arguments;
-        for (std::string& word : command) {
-            arguments.push_back(word.data());
-        }
-        arguments.push_back(nullptr);
-        posix_spawn_file_actions_t actions;
-        posix_spawn_file_actions_init(&actions);
-        posix_spawn_file_actions_adddup2(&actions, ends[1], STDIN_FILENO);
-        const int error = posix_spawn(&process_, arguments[0], &actions, nullptr, arguments.data(), environ);
-        posix_spawn_file_actions_destroy(&actions);
-        close(ends[1]);
-        if (error != 0) {
-            Raise(fault_path_access, where);
-        }
-        return channel;
     }
 
-    pid_t process_{};
+    std::intptr_t process_{};
     std::unique_ptr<PaintChannel> channel_;
 };
 
 } // namespace
 
+std::filesystem::path Paint_program_beside(const std::filesystem::path& program) {
+    std::filesystem::path name{paint_program_name};
+    name += program.extension();
+    return program.parent_path() / name;
+}
+
 bool PaintProgram::Found() const {
-    return access(program_.c_str(), X_OK) == 0;
+    return Is_program(program_);
 }
 
 int PaintProgram::Write_pictures(const std::filesystem::path& folder) {
     constexpr std::string_view where = "Write_pictures";
-    Work work{{program_.string(), paint_pictures, folder.string()}, where};
+    Work work{{Text_of(program_), paint_pictures, Text_of(folder)}, where};
     return Written(work.Channel(), where);
 }
 
 void PaintProgram::Write_report(const std::filesystem::path& file, const std::string& title,
                                 const std::function<void(PrintTarget&, const Moment&)>& draw) {
     constexpr std::string_view where = "Write_report";
-    Work work{{program_.string(), paint_report, file.string(), title}, where};
+    Work work{{Text_of(program_), paint_report, Text_of(file), title}, where};
     draw(*Sending_target(work.Channel()), SystemClock{}.Now());
     Written(work.Channel(), where);
 }

@@ -12,6 +12,9 @@
 namespace tarnvik {
 
 inline constexpr const char* paint_program_name = "tarnvik-paint";
+// It has the ending of the program that it paints for, if there is any.
+std::filesystem::path Paint_program_beside(const std::filesystem::path& program);
+
 // What it is asked for, its first argument; the folder, or file and title, follow.
 inline constexpr const char* paint_pictures = "pictures";
 inline constexpr const char* paint_report = "report";

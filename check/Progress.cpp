@@ -4,7 +4,7 @@
 #include <iostream>
 #include <utility>
 
-#include <unistd.h>
+#include "platform/Machine.h"
 
 namespace tarnvik {
 
@@ -46,8 +46,7 @@ void Progress::Clear() {
 }
 
 bool Has_watcher(const std::ostream& err) {
-    return err.rdbuf() == std::cerr.rdbuf() && isatty(STDERR_FILENO) == 1 && isatty(STDIN_FILENO) == 0 &&
-           isatty(STDOUT_FILENO) == 0;
+    return err.rdbuf() == std::cerr.rdbuf() && Is_terminal(2) && !Is_terminal(0) && !Is_terminal(1);
 }
 
 } // namespace tarnvik

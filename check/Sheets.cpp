@@ -102,7 +102,7 @@ std::string Difference(const Json& sheet, const Json& now) {
 
 long Line_of(std::string_view one, std::string_view other) {
     const auto [at, unused] = std::mismatch(one.begin(), one.end(), other.begin(), other.end());
-    return 1 + std::count(one.begin(), at, '\n');
+    return 1 + static_cast<long>(std::count(one.begin(), at, '\n'));
 }
 
 Verification Compare(std::string_view html, const Json& record, const ConnectionState& s, const Judge& judge) {

@@ -22,6 +22,7 @@
 #include "check/Validation.h"
 #include "data/SafeWrite.h"
 #include "data/SetupFile.h"
+#include "platform/Path.h"
 #include "report/PrintReport.h"
 
 namespace tarnvik {
@@ -255,7 +256,7 @@ int Tool::Write_plot(const std::vector<SweepPoint>& points) {
     try {
         const std::string svg = options_.sweep.size() > 1 ? Plot_grid(options_.sweep, points, title)
                                                           : Plot_sweep(options_.sweep.front(), points, title);
-        Safe_write(*options_.plot, svg, {OldTail::drop}, "Write_plot");
+        Safe_write(Path_of(*options_.plot), svg, {OldTail::drop}, "Write_plot");
     } catch (const RuntimeFault& fault) {
         err_ << "tarnvik-check: " << *options_.plot << ": cannot be written: " << fault.description << "\n";
         return exit_usage;
@@ -271,7 +272,7 @@ int Tool::Write_report(const PassResult& result) {
         return exit_stopped;
     }
     try {
-        rendering_->Write_report(*options_.report, Report_title(*s_),
+        rendering_->Write_report(Path_of(*options_.report), Report_title(*s_),
                                  [this](PrintTarget& target, const Moment& now) { session_.Print(target, now); });
     } catch (const RuntimeFault& fault) {
         err_ << "tarnvik-check: " << *options_.report << ": cannot be written: " << fault.description << "\n";
@@ -286,7 +287,7 @@ int Tool::Write_sheet(const Judgement& judgement) {
         return exit_stopped;
     }
     try {
-        Safe_write(*options_.sheet, Sheet_of(*s_, judge_, clock_.Now()), {OldTail::drop}, "Write_sheet");
+        Safe_write(Path_of(*options_.sheet), Sheet_of(*s_, judge_, clock_.Now()), {OldTail::drop}, "Write_sheet");
     } catch (const RuntimeFault& fault) {
         err_ << "tarnvik-check: " << *options_.sheet << ": cannot be written: " << fault.description << "\n";
         return exit_usage;
@@ -295,7 +296,7 @@ int Tool::Write_sheet(const Judgement& judgement) {
 }
 
 int Tool::Verify(const std::string& file) {
-    std::ifstream stream{file, std::ios::binary};
+    std::ifstream stream{Path_of(file), std::ios::binary};
     const std::string html{std::istreambuf_iterator<char>{stream}, {}};
     if (!stream) {
         throw UsageError{file + ": cannot be read"};

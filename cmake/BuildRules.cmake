@@ -17,3 +17,10 @@ if(TARNVIK_SANITIZE)
     -fsanitize=${TARNVIK_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
   target_link_options(tarnvik_build_rules INTERFACE -fsanitize=${TARNVIK_SANITIZE})
 endif()
+if(WIN32)
+  # No narrow names of the system's calls: they lack letters.
+  target_compile_definitions(tarnvik_build_rules INTERFACE UNICODE _UNICODE NOMINMAX WIN32_LEAN_AND_MEAN _WIN32_WINNT=0x0A00)
+  if(NOT TARNVIK_FRONTEND)
+    target_link_options(tarnvik_build_rules INTERFACE -static) # without the runtime's DLLs beside the programs
+  endif()
+endif()

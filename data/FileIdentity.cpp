@@ -6,8 +6,6 @@
 #include <utility>
 #include <vector>
 
-#include <fcntl.h>
-
 namespace tarnvik {
 
 std::uint64_t Digest_of(std::string_view bytes, std::uint64_t before) {
@@ -54,20 +52,20 @@ FileIdentity Identity_of(const SystemFile& file) {
 
 SeenFile See_file(const std::filesystem::path& path) {
     SeenFile unreadable{{FileIdentity::State::unreadable, 0, 0}, {}};
-    constexpr off_t largest = off_t{64} * 1024 * 1024;
-    struct stat status {};
-    if (stat(path.c_str(), &status) != 0) {
+    constexpr std::uint64_t largest = std::uint64_t{64} * 1024 * 1024;
+    const std::optional<FileStatus> status = Status_of(path);
+    if (!status) {
         return errno == ENOENT || errno == ENOTDIR ? SeenFile{} : unreadable;
     }
-    if (!S_ISREG(status.st_mode) || status.st_size > largest) { // before opening: a device may act on being opened
+    if (!status->regular || status->size > largest) { // before opening: a device may act on being opened
         return unreadable;
     }
     try {
-        const SystemFile file = Open_file(path, O_RDONLY);
+        const SystemFile file = Open_file(path, Access::read);
         if (!file) {
             return unreadable;
         }
-        std::string content = Content_of(file, static_cast<std::size_t>(status.st_size));
+        std::string content = Content_of(file, static_cast<std::size_t>(status->size));
         FileIdentity identity{FileIdentity::State::read, 0, 0};
         while (identity.size < content.size()) {
             Add_block(identity, std::string_view{content}.substr(identity.size, block_size));

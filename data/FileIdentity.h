@@ -10,7 +10,7 @@
 #include <string>
 #include <string_view>
 
-#include "data/SystemFile.h"
+#include "platform/SystemFile.h"
 
 namespace tarnvik {
 

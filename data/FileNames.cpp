@@ -1,12 +1,11 @@
 #include "data/FileNames.h"
 
-#include <array>
 #include <charconv>
 #include <cstdint>
 
-#include <unistd.h>
-
 #include "data/FileIdentity.h"
+#include "platform/Machine.h"
+#include "platform/Path.h"
 
 namespace tarnvik {
 
@@ -31,11 +30,11 @@ std::string_view Cut(std::string_view text, std::size_t length) {
 }
 
 std::string Host() {
-    std::array<char, 256> name{};
-    if (gethostname(name.data(), name.size() - 1) != 0 || name[0] == '\0') {
+    const std::string name = Host_name();
+    if (name.empty()) {
         return "localhost";
     }
-    std::string host{Cut(name.data(), longest_host)};
+    std::string host{Cut(name, longest_host)};
     for (char& c : host) {
         if (c == '/') {
             c = '_';
@@ -67,7 +66,7 @@ std::string Hexadecimal(std::uint64_t value) {
 } // namespace
 
 std::string Temporary_name(std::string_view name, int number) {
-    return Temporary_start(name) + Host() + "." + std::to_string(getpid()) + "-" + std::to_string(number) +
+    return Temporary_start(name) + Host() + "." + std::to_string(Process_number()) + "-" + std::to_string(number) +
            std::string{temporary_end};
 }
 
@@ -110,8 +109,8 @@ std::string Undo_name(std::string_view name) {
 }
 
 std::string Undo_name_of_path(const fs::path& path) {
-    const std::string end = "." + Hexadecimal(Digest_of(path.native())) + ".undo";
-    return std::string{Cut(path.filename().native(), longest_name - end.size())} + end;
+    const std::string end = "." + Hexadecimal(Digest_of(Text_of(path))) + ".undo";
+    return std::string{Cut(Text_of(path.filename()), longest_name - end.size())} + end;
 }
 
 } // namespace tarnvik

@@ -2,38 +2,20 @@
 
 #include <algorithm>
 #include <array>
-#include <cstdlib>
 #include <fstream>
 #include <string>
 #include <system_error>
 
 #include "data/SetupFile.h"
 #include "data/Tables.h"
+#include "platform/Machine.h"
+#include "platform/Path.h"
 
 namespace tarnvik {
 
 namespace fs = std::filesystem;
 
 namespace {
-
-// A variable of the environment that is to hold an absolute path; empty where it does not.
-fs::path Absolute(const char* variable) {
-    const char* value = std::getenv(variable); // NOLINT(concurrency-mt-unsafe): nothing here writes the environment
-    fs::path path = value == nullptr ? "" : value;
-    return path.is_absolute() ? path : fs::path{};
-}
-
-fs::path User_folder(const char* variable, const char* below_home) {
-    fs::path folder = Absolute(variable);
-    if (folder.empty()) {
-        const fs::path home = Absolute("HOME");
-        if (home.empty()) {
-            return {};
-        }
-        folder = home / below_home;
-    }
-    return folder / "tarnvik";
-}
 
 constexpr std::array<const char*, 3> data_files{material_file, profile_file, setup_file_read};
 
@@ -49,7 +31,7 @@ fs::path Said_beside(const fs::path& program) {
     std::ifstream file{program / folder_file};
     std::string line;
     std::getline(file, line);
-    return line;
+    return Path_of(line);
 }
 
 } // namespace
@@ -59,7 +41,7 @@ DataFolder Find_data_folder(const fs::path& program, const fs::path& asked) {
         return {asked, {}};
     }
     const fs::path said = Said_beside(program);
-    const fs::path own = User_folder("XDG_DATA_HOME", ".local/share");
+    const fs::path own = User_data_folder();
     const fs::path delivered = said.empty() ? program : (program / said).lexically_normal();
     if (said == "." || own.empty()) {
         return {said == "." ? program : delivered, {}};
@@ -94,10 +76,6 @@ bool Fill_data_folder(const DataFolder& data) {
 
 fs::path Readable_folder(const DataFolder& data) {
     return data.delivered.empty() || Has_data(data.folder) ? data.folder : data.delivered;
-}
-
-fs::path User_state_folder() {
-    return User_folder("XDG_STATE_HOME", ".local/state");
 }
 
 } // namespace tarnvik

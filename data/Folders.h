@@ -36,8 +36,4 @@ struct Folders {
     bool data_is_new{};             // filled by this start
 };
 
-// The folder "tarnvik" in the user's state folder, by the rules of the XDG base directories: $XDG_STATE_HOME where that
-// is an absolute path, else ~/.local/state. Empty without a home.
-std::filesystem::path User_state_folder();
-
 } // namespace tarnvik

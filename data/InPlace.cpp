@@ -12,7 +12,7 @@ namespace {
 
 // What makes the file longer comes first: a disk that is full of it has not touched the former content yet.
 void Overwrite(const SystemFile& former, std::string_view content, OldTail tail) {
-    const auto size = static_cast<std::size_t>(Status_of(former).st_size);
+    const auto size = static_cast<std::size_t>(Status_of(former).size);
     if (content.size() > size) {
         Write_at(former, content.substr(size), size);
     }
@@ -25,7 +25,7 @@ void Overwrite(const SystemFile& former, std::string_view content, OldTail tail)
 
 void Restore(const SystemFile& former, const UndoCopy& copy) {
     Copy_from(copy.file, 0, former);
-    Cut_at(former, static_cast<std::uint64_t>(Status_of(copy.file).st_size));
+    Cut_at(former, Status_of(copy.file).size);
     Flush(former);
 }
 

@@ -6,33 +6,17 @@
 #include <system_error>
 #include <utility>
 
-#include <fcntl.h>
-#include <unistd.h>
-
 #include "data/FileNames.h"
-#include "data/FileRights.h"
-#include "data/Folders.h"
 #include "data/TemporaryFile.h"
+#include "platform/FileRights.h"
+#include "platform/Machine.h"
+#include "platform/Path.h"
 
 namespace tarnvik {
 
 namespace fs = std::filesystem;
 
 namespace {
-
-constexpr mode_t closed_file = 0600;
-constexpr mode_t closed_folder = 0700;
-
-void Make_folder(const fs::path& folder) {
-    if (fs::is_directory(folder)) {
-        return;
-    }
-    Make_folder(folder.parent_path());
-    if (mkdir(folder.c_str(), closed_folder) != 0 && errno != EEXIST) {
-        Throw_error();
-    }
-    Flush_folder(folder.parent_path(), Open_file(folder, O_RDONLY | O_DIRECTORY));
-}
 
 // The file's folder is there: whatever is missing here, it is no path of the user's that was not found.
 fs::path State_folder_made() {
@@ -41,7 +25,7 @@ fs::path State_folder_made() {
         Throw_error(EACCES);
     }
     try {
-        Make_folder(folder);
+        Make_closed_folder(folder);
     } catch (const std::system_error& error) {
         Throw_error(error.code() == std::errc::no_space_on_device ? ENOSPC : EACCES);
     }
@@ -57,10 +41,10 @@ void Fill(TemporaryFile& copy, const SystemFile& former) {
 
 // `path` names the file that is copied, in the folder where the copy goes.
 fs::path Keep_copy_at(const SystemFile& former, const fs::path& path) {
-    TemporaryFile copy{path, closed_file};
+    TemporaryFile copy{path, NewRights::closed};
     Fill(copy, former);
     for (int number = 1;; ++number) {
-        fs::path kept = Folder_of(path) / Kept_name(path.filename().native(), number);
+        fs::path kept = Folder_of(path) / Path_of(Kept_name(Text_of(path.filename()), number));
         if (copy.Take_free(kept)) {
             Flush_folder(Folder_of(path), copy.File());
             copy.Close();
@@ -71,7 +55,7 @@ fs::path Keep_copy_at(const SystemFile& former, const fs::path& path) {
 
 // `path` as above; `undo` is the name that the copy gets.
 UndoCopy Make_undo_copy_at(const SystemFile& former, const fs::path& path, const fs::path& undo) {
-    TemporaryFile copy{path, closed_file};
+    TemporaryFile copy{path, NewRights::closed};
     Fill(copy, former);
     if (!copy.Take_free(undo)) {
         Throw_error(EPERM); // of somebody who is not trusted with the file
@@ -80,39 +64,28 @@ UndoCopy Make_undo_copy_at(const SystemFile& former, const fs::path& path, const
 }
 
 fs::path Beside(const fs::path& target) {
-    return Folder_of(target) / Undo_name(target.filename().native());
+    return Folder_of(target) / Path_of(Undo_name(Text_of(target.filename())));
 }
 
 std::array<fs::path, 2> Undo_paths(const fs::path& target) {
     const fs::path folder = User_state_folder();
-    return {Beside(target), folder.empty() ? fs::path{} : folder / Undo_name_of_path(target)};
-}
-
-// Where everybody may make files but nobody remove another's, a copy made by anybody has no say in the file.
-bool Is_trusted(const SystemFile& copy, const SystemFile& former, const fs::path& folder) {
-    const struct stat status = Status_of(copy);
-    struct stat around {};
-    if (stat(folder.c_str(), &around) != 0) {
-        Throw_error();
-    }
-    return status.st_uid == geteuid() || status.st_uid == 0 || status.st_uid == Status_of(former).st_uid ||
-           (around.st_mode & static_cast<mode_t>(S_ISVTX)) == 0;
+    return {Beside(target), folder.empty() ? fs::path{} : folder / Path_of(Undo_name_of_path(target))};
 }
 
 // A folder that cannot be looked into holds no copy of ours.
 bool Is_there(const fs::path& path) {
     constexpr std::array absences{ENOENT, ENOTDIR, EACCES, ENAMETOOLONG, ELOOP};
-    struct stat status {};
     if (path.empty()) {
         return false;
     }
-    if (lstat(path.c_str(), &status) != 0) {
+    const std::optional<FileStatus> status = Status_of_link(path);
+    if (!status) {
         if (std::find(absences.begin(), absences.end(), errno) == absences.end()) {
             Throw_error();
         }
         return false;
     }
-    return S_ISREG(status.st_mode);
+    return status->regular;
 }
 
 } // namespace
@@ -142,7 +115,7 @@ UndoCopy Make_undo_copy(const SystemFile& former, const fs::path& target) {
         }
     }
     const fs::path folder = State_folder_made();
-    return Make_undo_copy_at(former, folder / target.filename(), folder / Undo_name_of_path(target));
+    return Make_undo_copy_at(former, folder / target.filename(), folder / Path_of(Undo_name_of_path(target)));
 }
 
 std::optional<UndoCopy> Find_undo_copy(const SystemFile& former, const fs::path& target) {
@@ -150,7 +123,7 @@ std::optional<UndoCopy> Find_undo_copy(const SystemFile& former, const fs::path&
         if (!Is_there(path)) {
             continue;
         }
-        SystemFile file = Open_file(path, O_RDONLY | O_NOFOLLOW | O_NONBLOCK);
+        SystemFile file = Open_no_link(path, Access::read);
         if (!file) {
             Throw_error();
         }
@@ -167,7 +140,7 @@ bool Has_undo_copy(const fs::path& target) {
 }
 
 void Remove_undo_copy(const UndoCopy& copy) {
-    if (unlink(copy.path.c_str()) != 0) {
+    if (!Remove_file(copy.path)) {
         Throw_error();
     }
     Flush_folder(Folder_of(copy.path), copy.file);
@@ -179,7 +152,7 @@ std::optional<fs::path> Retire_undo_copy(const fs::path& target) {
             continue;
         }
         for (int number = 1;; ++number) {
-            fs::path kept = Folder_of(path) / Kept_name(target.filename().native(), number);
+            fs::path kept = Folder_of(path) / Path_of(Kept_name(Text_of(target.filename()), number));
             if (Rename_to_free(path, kept)) {
                 return kept;
             }

@@ -5,7 +5,7 @@
 #include <filesystem>
 #include <optional>
 
-#include "data/SystemFile.h"
+#include "platform/SystemFile.h"
 
 namespace tarnvik {
 

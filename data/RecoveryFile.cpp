@@ -5,9 +5,7 @@
 #include <utility>
 #include <vector>
 
-#include <fcntl.h>
-#include <stdlib.h> // NOLINT(modernize-deprecated-headers): mkostemps is the system's
-#include <unistd.h>
+#include "platform/Path.h"
 
 namespace tarnvik {
 
@@ -20,23 +18,29 @@ constexpr std::string_view suffix = ".tnvik";
 constexpr std::string_view part = ".part"; // not whole yet
 constexpr std::string_view tail_mark = "\nTarnvik recovery of: ";
 
-bool Write_all(const SystemFile& file, std::string_view content) {
-    while (!content.empty()) {
-        const ssize_t written = write(file.Get(), content.data(), content.size());
-        if (written <= 0) {
-            return false;
-        }
-        content.remove_prefix(static_cast<std::size_t>(written));
+bool Write_whole(const SystemFile& file, std::string_view content) {
+    try {
+        Write_at(file, content, 0);
+        Flush(file);
+        return true;
+    } catch (const std::system_error&) {
+        return false;
     }
-    return fsync(file.Get()) == 0;
+}
+
+bool Rename(const fs::path& from, const fs::path& to) {
+    try {
+        Rename_over(from, to);
+        return true;
+    } catch (const std::system_error&) {
+        return false;
+    }
 }
 
 // A file that still has the path that it was opened by: its process may just have put a new one in its place.
 bool Stands_at(const SystemFile& file, const fs::path& path) {
-    struct stat one {};
-    struct stat other {};
-    return fstat(file.Get(), &one) == 0 && lstat(path.c_str(), &other) == 0 && one.st_dev == other.st_dev &&
-           one.st_ino == other.st_ino && S_ISREG(one.st_mode);
+    const std::optional<FileStatus> there = Status_of_link(path);
+    return there && there->regular && there->file == Status_of(file).file;
 }
 
 struct Candidate {
@@ -48,7 +52,7 @@ std::vector<Candidate> Candidates(const fs::path& folder) {
     std::vector<Candidate> found;
     std::error_code error;
     for (fs::directory_iterator i{folder, error}, end; !error && i != end; i.increment(error)) {
-        const std::string name = i->path().filename().string();
+        const std::string name = Text_of(i->path().filename());
         if (name.starts_with(prefix) && (name.ends_with(suffix) || name.ends_with(part))) {
             std::error_code ignored;
             found.push_back({i->path(), i->last_write_time(ignored)});
@@ -71,15 +75,21 @@ bool RecoveryFile::Write(std::string_view content) {
     if (fs::create_directories(folder_, error)) {
         fs::permissions(folder_, fs::perms::owner_all, error);
     }
-    std::string name = (folder_ / prefix).string() + "XXXXXX" + std::string{suffix} + std::string{part};
-    SystemFile file{mkostemps(name.data(), static_cast<int>(suffix.size() + part.size()), O_CLOEXEC)}; // mode 0600
+    std::string name = Text_of(folder_ / prefix) + "XXXXXX" + std::string{suffix} + std::string{part};
+    SystemFile file = Create_file(name, suffix.size() + part.size());
     if (!file) {
         return false;
     }
-    fs::path target = path_.empty() ? fs::path{name.substr(0, name.size() - part.size())} : path_;
-    if (Try_lock(file) != LockResult::taken || !Write_all(file, content) || rename(name.c_str(), target.c_str()) != 0) {
-        unlink(name.c_str());
+    const fs::path path = Path_of(name);
+    const fs::path own = Path_of(std::string_view{name}.substr(0, name.size() - part.size()));
+    fs::path target = path_.empty() ? own : path_;
+    if (Try_lock(file) != LockResult::taken || !Write_whole(file, content) ||
+        !(Rename(path, target) || Rename(path, target = own))) {
+        Remove_file(path);
         return false;
+    }
+    if (!path_.empty() && target != path_) {
+        Remove_file(path_); // which is open: not every file system puts another one in its place
     }
     path_ = std::move(target);
     locked_ = std::move(file);
@@ -88,7 +98,7 @@ bool RecoveryFile::Write(std::string_view content) {
 
 void RecoveryFile::Remove() {
     if (!path_.empty()) {
-        unlink(path_.c_str());
+        Remove_file(path_);
         path_.clear();
         locked_ = {};
     }
@@ -99,12 +109,12 @@ std::optional<LeftWork> Claim_left_work(const fs::path& folder) {
         return std::nullopt;
     }
     for (const auto& [path, time] : Candidates(folder)) {
-        SystemFile file{open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK)};
+        SystemFile file = Open_no_link(path, Access::read);
         if (!file || Try_lock(file) != LockResult::taken || !Stands_at(file, path)) {
             continue;
         }
-        if (path.native().ends_with(part)) {
-            unlink(path.c_str());
+        if (Text_of(path).ends_with(part)) {
+            Remove_file(path);
             continue;
         }
         return LeftWork{path, std::move(file)};

@@ -6,12 +6,11 @@
 #include <system_error>
 #include <utility>
 
-#include <fcntl.h>
-
 #include "calc/RuntimeFault.h"
-#include "data/FileRights.h"
 #include "data/KeptCopy.h"
 #include "data/TemporaryFile.h"
+#include "platform/FileRights.h"
+#include "platform/Path.h"
 
 namespace tarnvik {
 
@@ -20,40 +19,15 @@ namespace fs = std::filesystem;
 namespace {
 
 int Number_of(int system_error) {
-    switch (system_error) {
-    case ENOENT:
-    case ENOTDIR:
+    if (system_error == ENOENT || system_error == ENOTDIR) {
         return fault_path_not_found;
-    case ENOSPC:
-    case EDQUOT:
-    case EFBIG: // a limit on the size of files, as a full disk
-        return fault_disk_full;
-    default:
-        return fault_path_access;
     }
-}
-
-// The file that a path leads to. A link that leads to nothing yet is followed as well: the file is created at its end.
-fs::path Follow(const fs::path& path) {
-    std::error_code error;
-    fs::path target = fs::weakly_canonical(path, error);
-    if (error || target.empty()) {
-        target = path;
-    }
-    constexpr int most_links = 40;
-    for (int i = 0; i < most_links && fs::is_symlink(fs::symlink_status(target, error)); ++i) {
-        const fs::path link = fs::read_symlink(target, error);
-        if (error) {
-            break;
-        }
-        target = Folder_of(target) / link; // an absolute link replaces the folder
-    }
-    return target;
+    return Is_disk_full(system_error) ? fault_disk_full : fault_path_access;
 }
 
 // Whether nothing of the file would be lost with the content written over it.
 bool Content_holds(std::string_view content, OldTail tail, const SystemFile& former) {
-    const auto size = static_cast<std::size_t>(Status_of(former).st_size);
+    const auto size = static_cast<std::size_t>(Status_of(former).size);
     if (content.size() > size || (content.size() < size && tail == OldTail::drop)) {
         return false;
     }
@@ -98,8 +72,8 @@ private:
     SaveRequest request_;
     SaveReport report_;
     Deadline deadline_{End_of_patience()};
-    SystemFile former_;   // locked; none for a new file
-    struct stat seen_ {}; // what it was when its content was looked at
+    SystemFile former_; // locked; none for a new file
+    FileStatus seen_;   // what it was when its content was looked at
 };
 
 bool Saving::Try() {
@@ -107,7 +81,7 @@ bool Saving::Try() {
         return false;
     }
     Keep_former();
-    if (former_ && seen_.st_nlink > 1) {
+    if (former_ && seen_.names > 1) {
         return Overwrite();
     }
     const Replaced replaced = Replace();
@@ -117,17 +91,17 @@ bool Saving::Try() {
 // What overwriting in place would refuse is refused here: a renaming alone asks only for the folder's permission.
 bool Saving::Open_former() {
     former_ = {};
-    struct stat status {};
-    if (stat(target_.c_str(), &status) != 0) {
+    const std::optional<FileStatus> status = Status_of(target_);
+    if (!status) {
         if (errno != ENOENT) {
             Throw_error();
         }
         return true;
     }
-    if (!S_ISREG(status.st_mode)) {
+    if (!status->regular) {
         Throw_error(EACCES); // a device or a pipe is no place for a project
     }
-    former_ = Open_file(target_, O_RDWR);
+    former_ = Open_file(target_, Access::read_write);
     if (!former_) {
         if (errno != ENOENT) {
             Throw_error();
@@ -166,19 +140,17 @@ void Saving::Keep_former() {
 }
 
 bool Saving::As_seen() const {
-    struct stat now {};
-    if (stat(target_.c_str(), &now) != 0) {
+    const std::optional<FileStatus> now = Status_of(target_);
+    if (!now) {
         return !former_ && errno == ENOENT;
     }
-    return former_ && Unchanged(now, seen_);
+    return former_ && *now == seen_;
 }
 
 Saving::Replaced Saving::Replace() {
-    constexpr mode_t closed = 0600;
-    constexpr mode_t of_a_new_file = 0666; // less what the umask takes
     std::optional<TemporaryFile> temporary;
     try {
-        temporary.emplace(target_, former_ ? closed : of_a_new_file);
+        temporary.emplace(target_, former_ ? NewRights::closed : NewRights::usual);
         if (!Fill(*temporary)) {
             return Replaced::refused;
         }
@@ -235,28 +207,28 @@ bool Saving::Overwrite() {
 SaveReport Safe_write(const fs::path& path, std::string_view content, const SaveRequest& request,
                       std::string_view where) {
     try {
-        fs::path target = Follow(path);
+        fs::path target = Target_of(path);
         std::error_code error;
         if (!target.has_filename() || fs::is_directory(target, error)) {
             Throw_error(EISDIR);
         }
         return Saving{std::move(target), content, request}.Run();
     } catch (const std::system_error& error) {
-        Raise(Number_of(error.code().value()), where);
+        Raise(Number_of(error.code().default_error_condition().value()), where);
     }
 }
 
 std::optional<fs::path> Mend_file(const fs::path& path, std::string_view where) {
     try {
-        const fs::path target = Follow(path);
+        const fs::path target = Target_of(path);
         if (!Has_undo_copy(target) || !fs::is_regular_file(target)) {
             return {};
         }
-        if (const SystemFile former = Open_file(target, O_RDWR)) {
+        if (const SystemFile former = Open_file(target, Access::read_write)) {
             Lock(former);
             return Mend(former, target);
         }
-        const SystemFile former = Open_file(target, O_RDONLY);
+        const SystemFile former = Open_file(target, Access::read);
         if (!former) {
             return {}; // whoever reads it will tell
         }
@@ -267,7 +239,7 @@ std::optional<fs::path> Mend_file(const fs::path& path, std::string_view where) 
         }
         return {};
     } catch (const std::system_error& error) {
-        Raise(Number_of(error.code().value()), where);
+        Raise(Number_of(error.code().default_error_condition().value()), where);
     }
 }
 

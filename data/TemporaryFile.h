@@ -4,7 +4,7 @@
 #include <filesystem>
 #include <utility>
 
-#include "data/SystemFile.h"
+#include "platform/SystemFile.h"
 
 namespace tarnvik {
 
@@ -14,7 +14,7 @@ class TemporaryFile {
 public:
     // Empty and locked, in the folder of `target`. Removes what dead processes left there of it.
     // Errors: throws std::system_error, as do all below.
-    TemporaryFile(const std::filesystem::path& target, mode_t mode);
+    TemporaryFile(const std::filesystem::path& target, NewRights rights);
     TemporaryFile(const TemporaryFile&) = delete;
     TemporaryFile& operator=(const TemporaryFile&) = delete;
     ~TemporaryFile();
@@ -33,7 +33,7 @@ public:
 
 private:
     TemporaryFile() = default;
-    bool Create(const std::filesystem::path& path, mode_t mode);
+    bool Create(const std::filesystem::path& path, NewRights rights);
 
     std::filesystem::path path_; // once it exists
     SystemFile file_;

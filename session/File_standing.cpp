@@ -3,18 +3,13 @@
 #include <algorithm>
 #include <utility>
 
+#include "platform/Path.h"
+
 namespace tarnvik {
 
 namespace fs = std::filesystem;
 
 namespace {
-
-// One spelling of a path, so that the same file is known again.
-fs::path Plain(const fs::path& path) {
-    std::error_code error;
-    fs::path plain = fs::weakly_canonical(path, error);
-    return error ? path : plain;
-}
 
 // A name that fits the line that it stands in.
 std::string Short_name(const fs::path& path) {
@@ -63,7 +58,7 @@ Words Save_words(const RuntimeFault& fault) {
 }
 
 std::optional<std::string> FileStanding::Look_at(const fs::path& path) {
-    path_ = Plain(path);
+    path_ = Plain_path(path);
     SeenFile seen = See_file(path_);
     known_ = seen.identity;
     return std::move(seen.content);
@@ -72,12 +67,12 @@ std::optional<std::string> FileStanding::Look_at(const fs::path& path) {
 void FileStanding::Note_opened(const fs::path& path, const std::optional<RuntimeFault>& failure,
                                const std::optional<fs::path>& mended) {
     if (failure || !unread_.empty()) {
-        std::erase(unread_, Plain(path));
+        std::erase(unread_, Plain_path(path));
     }
     Say(false, {});
     mended_ = mended;
     if (failure) {
-        unread_.push_back(Plain(path));
+        unread_.push_back(Plain_path(path));
         Say(true, {"Not opened: ", "Ikke åpnet: "}, Open_words(*failure));
     } else if (mended) {
         Say_kept({"Opened; a save that was cut off is kept as ", "Åpnet; en avbrutt lagring er tatt vare på som "},
@@ -86,7 +81,7 @@ void FileStanding::Note_opened(const fs::path& path, const std::optional<Runtime
 }
 
 SaveRequest FileStanding::Request(const fs::path& path, bool asked) const {
-    const fs::path plain = Plain(path);
+    const fs::path plain = Plain_path(path);
     SaveRequest request;
     if (std::find(unread_.begin(), unread_.end(), plain) != unread_.end()) {
         request.keep_former = true;
@@ -99,7 +94,7 @@ SaveRequest FileStanding::Request(const fs::path& path, bool asked) const {
 }
 
 void FileStanding::Note_saved(const fs::path& path, const SaveReport& report) {
-    const fs::path plain = Plain(path);
+    const fs::path plain = Plain_path(path);
     const bool unread = std::erase(unread_, plain) > 0;
     const bool known = plain == path_;
     path_ = plain;

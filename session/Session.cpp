@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "data/StartValue.h"
+#include "platform/Path.h"
 
 namespace tarnvik {
 
@@ -45,7 +46,7 @@ void Session::Read_project(const std::string& path, const FileContent& content, 
     if (content) {
         Load_project_bytes(s_, record, *content);
     } else {
-        Load_project(s_, record, path);
+        Load_project(s_, record, Path_of(path));
     }
     Apply_project(s_, record);
     if (show) {
@@ -69,8 +70,8 @@ std::optional<RuntimeFault> Session::Open_project(const std::string& path, const
     std::optional<std::filesystem::path> mended;
     FileContent content;
     try {
-        mended = Mend_file(path, "Open_project");
-        content = file_.Look_at(path);
+        mended = Mend_file(Path_of(path), "Open_project");
+        content = file_.Look_at(Path_of(path));
     } catch (const RuntimeFault& fault) {
         Open_project_failed(s_, fault.number, view_.Box());
         failure = fault;
@@ -78,7 +79,7 @@ std::optional<RuntimeFault> Session::Open_project(const std::string& path, const
     if (!failure) {
         failure = Try_read(path, content, show);
     }
-    file_.Note_opened(path, failure, mended);
+    file_.Note_opened(Path_of(path), failure, mended);
     Name(path);
     return failure;
 }
@@ -90,7 +91,7 @@ std::optional<RuntimeFault> Session::Recover(const std::string& path, const std:
         Name_new_file(s_);
     } else if (!failure) {
         Name(project);
-        file_.Look_at(project);
+        file_.Look_at(Path_of(project));
     }
     return failure;
 }
@@ -111,9 +112,10 @@ Session::Content Session::Content_now(const std::optional<TypedNames>& typed) co
 }
 
 void Session::Save(const std::string& path, const std::optional<TypedNames>& typed, bool asked) {
+    const std::filesystem::path file = Path_of(path);
     Content content = Content_now(typed);
     try {
-        file_.Note_saved(path, Save_project(s_, content.record, path, file_.Request(path, asked)));
+        file_.Note_saved(file, Save_project(s_, content.record, file, file_.Request(file, asked)));
     } catch (const RuntimeFault& fault) {
         file_.Note_not_saved(fault);
         throw;

@@ -1,36 +1,14 @@
 #include "session/SystemClock.h"
 
+#include <array>
 #include <ctime>
-#include <iomanip>
-#include <locale>
-#include <sstream>
-#include <stdexcept>
+
+#include "platform/Region.h"
 
 namespace tarnvik {
 
-namespace {
-
-// One kind of the regional settings alone: each is loaded from the disk.
-std::locale System_locale(std::locale::category kind) {
-    try {
-        return {std::locale::classic(), "", kind};
-    } catch (const std::runtime_error&) { // the environment names a locale that is not installed
-        return std::locale::classic();
-    }
-}
-
-std::string Text(const std::tm& time, const char* form, const std::locale& locale) {
-    std::ostringstream text;
-    text.imbue(locale);
-    text << std::put_time(&time, form);
-    return text.str();
-}
-
-} // namespace
-
 char System_decimal_sign() {
-    const std::locale settings = System_locale(std::locale::numeric);
-    return std::use_facet<std::numpunct<char>>(settings).decimal_point() == ',' ? ',' : '.';
+    return Decimal_sign_text() == "," ? ',' : '.';
 }
 
 Moment SystemClock::Now() {
@@ -39,7 +17,9 @@ Moment SystemClock::Now() {
     if (local == nullptr) {
         return {};
     }
-    return {Text(*local, "%x", System_locale(std::locale::time)), Text(*local, "%H:%M:%S", std::locale::classic())};
+    std::array<char, 16> time{};
+    std::strftime(time.data(), time.size(), "%H:%M:%S", local);
+    return {Date_text(*local), time.data()};
 }
 
 } // namespace tarnvik

@@ -5,7 +5,7 @@
 
 namespace tarnvik {
 
-// The decimal sign of the system's regional settings (LC_ALL, LC_NUMERIC, LANG): a comma where it is one, else a point.
+// The decimal sign of the system's regional settings: a comma where it is one, else a point.
 char System_decimal_sign();
 
 // The date in the form of the environment's LC_TIME.

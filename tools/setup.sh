@@ -22,6 +22,14 @@ ci_packages=(
     git clang clang-format-14 clang-tidy-14 libclang-rt-14-dev libbenchmark-dev
 )
 
+# What cross-builds the core for Windows and runs it, and what its sources are fetched with; and what the installer needs beyond that.
+windows_packages=(
+    g++-mingw-w64-x86-64-posix wine64 dpkg-dev googletest
+)
+windows_release_packages=(
+    git nsis zip unzip qt6-base-dev-tools mingw-w64-common xvfb xauth
+)
+
 # What tools/make_manual.py sets the manual with; the PDF is committed, so that nothing else needs them.
 manual_packages=(
     pandoc texlive-luatex texlive-latex-recommended texlive-latex-extra fonts-texgyre fonts-texgyre-math fonts-dejavu-core
@@ -62,4 +70,18 @@ install_missing() {
     local -a apt=("${root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get -q -o Acquire::Retries=3)
     "${apt[@]}" update </dev/null &&
         "${apt[@]}" install -y --no-install-recommends "${missing[@]}" </dev/null
+}
+
+# Lets apt-get fetch sources of Debian's packages, where nothing does so yet. Needs root, or sudo.
+install_sources() {
+    if apt-get -q source --print-uris libcsv >/dev/null 2>&1; then
+        return 0
+    fi
+    local line="deb-src [signed-by=/usr/share/keyrings/debian-archive-keyring.gpg] http://deb.debian.org/debian bookworm main"
+    local -a root=()
+    if [ "$(id -u)" -ne 0 ]; then
+        root=(sudo -n)
+    fi
+    echo "$line" | "${root[@]}" tee /etc/apt/sources.list.d/tarnvik-sources.list >/dev/null &&
+        "${root[@]}" apt-get -q -o Acquire::Retries=3 update </dev/null
 }

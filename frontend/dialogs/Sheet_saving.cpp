@@ -8,6 +8,7 @@
 #include "calc/Version.h"
 #include "data/SafeWrite.h"
 #include "frontend/dialogs/File_words.h"
+#include "platform/Path.h"
 #include "ports/Services.h"
 #include "session/Session.h"
 #include "sheet/Check_sheet.h"
@@ -24,7 +25,7 @@ FileRequest Request_of(const ConnectionState& s) {
     request.flags = prompt_on_overwrite | hide_read_only;
     request.words = File_words(english, true, english ? "Save check sheet as" : "Lagre kontrollark som",
                                english ? "Web pages" : "Nettsider");
-    std::filesystem::path file = s.File_named ? std::filesystem::path{s.File_name} : std::filesystem::path{"Tarnvik"};
+    std::filesystem::path file = s.File_named ? Path_of(s.File_name) : std::filesystem::path{"Tarnvik"};
     request.folder = file.parent_path().string();
     request.file_name = file.replace_extension(".html").string();
     return request;
@@ -41,7 +42,7 @@ void Save_sheet(const Session& session, const Services& services) {
     }
     const Verdict verdict = Verdict_of(s, session.Results().Splitting_current(s));
     try {
-        Safe_write(*path, Check_sheet(s, verdict, services.clock.Now(), TARNVIK_VERSION), {OldTail::drop},
+        Safe_write(Path_of(*path), Check_sheet(s, verdict, services.clock.Now(), TARNVIK_VERSION), {OldTail::drop},
                    "Save_sheet");
     } catch (const RuntimeFault& fault) {
         services.boxes.Show(*path + (english ? "\ncannot be written: " : "\nkan ikke skrives: ") +

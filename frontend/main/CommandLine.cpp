@@ -3,6 +3,8 @@
 #include <cstddef>
 #include <string_view>
 
+#include "platform/Path.h"
+
 namespace tarnvik {
 
 CommandLine Parse_command_line(const std::vector<std::string>& arguments) {
@@ -30,14 +32,14 @@ CommandLine Parse_command_line(const std::vector<std::string>& arguments) {
         }
     }
     if (!line.data.empty()) {
-        line.data = std::filesystem::absolute(line.data).string();
+        line.data = Absolute_path(Path_of(line.data)).string();
     }
     if (projects.size() > 1) {
         line.error = "expected one project, or none";
     } else if (projects.size() == 1 && projects.front().empty()) {
         line.error = "expected the path of a project, got an empty one";
     } else if (projects.size() == 1) {
-        line.project = std::filesystem::absolute(projects.front()).string();
+        line.project = Absolute_path(Path_of(projects.front())).string();
     }
     return line;
 }

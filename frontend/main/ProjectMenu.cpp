@@ -10,6 +10,7 @@
 #include "calc/RuntimeFault.h"
 #include "frontend/dialogs/File_words.h"
 #include "frontend/painting/Texts.h"
+#include "platform/Path.h"
 
 namespace tarnvik {
 
@@ -69,7 +70,9 @@ void ProjectMenu::File_menu(int Index) {
 // Where the last project lay that was opened or saved, in this run or before.
 std::string ProjectMenu::Last_folder() const {
     const ConnectionState& s = session_.State();
-    const std::filesystem::path last = s.File_named ? s.File_name : recent_(1).visible ? Recent_path(recent_, 1) : "";
+    const std::filesystem::path last = Path_of(s.File_named         ? s.File_name
+                                               : recent_(1).visible ? Recent_path(recent_, 1)
+                                                                    : "");
     std::error_code ignored;
     return std::filesystem::is_directory(last.parent_path(), ignored) ? last.parent_path().string() : std::string{};
 }

@@ -12,6 +12,7 @@
 #include "frontend/painting/PictureStore.h"
 #include "frontend/painting/QtPrintTarget.h"
 #include "frontend/painting/Texts.h"
+#include "platform/Path.h"
 #include "session/SystemClock.h"
 #include "spacing/sketch/Picture.h"
 #include "spacing/sketch/Svg.h"
@@ -23,15 +24,16 @@ namespace {
 constexpr std::string_view where = "Write_pictures";
 constexpr double png_scale = 2.0; // pixels of the PNG for a pixel at 96 dpi
 
-// The toolkit's messages, but for the one that a session without a desktop always brings.
+// The toolkit's messages, but for those that a session without a desktop always brings: the faces are in the program.
 void Pass_on(QtMsgType /*type*/, const QMessageLogContext& /*context*/, const QString& text) {
-    if (!text.startsWith(QLatin1String("QStandardPaths: XDG_RUNTIME_DIR not set"))) {
+    if (!text.startsWith(QLatin1String("QStandardPaths: XDG_RUNTIME_DIR not set")) &&
+        !text.startsWith(QLatin1String("QFontDatabase: Cannot find font directory"))) {
         std::fprintf(stderr, "%s\n", qPrintable(text));
     }
 }
 
 void Write_svg(const std::string& file, const std::string& svg) {
-    std::ofstream out{file, std::ios::binary};
+    std::ofstream out{Path_of(file), std::ios::binary};
     if (!(out << svg).flush()) {
         Raise(fault_path_access, where);
     }

@@ -1,6 +1,7 @@
 #include "check/Loads.h"
 
 #include "check/Options.h"
+#include "platform/Path.h"
 #include "tests/support/Tool.h"
 
 namespace tarnvik {
@@ -16,7 +17,7 @@ using Arguments = std::vector<std::string>;
 class Loads : public testing::Test {
 protected:
     [[nodiscard]] ToolRun Check(const std::string& table, const Arguments& further = {}) const {
-        test::Write_file(file, table);
+        test::Write_file(Path_of(file), table);
         Arguments arguments{"--lang",     "Eng",    "--joint", "1.2",     "--member1", "2x48x198", "--member2",
                             "48x223",     "--bolt", "M16x8.8", "--bolts", "2",         "--layout", "b",
                             "--material", "C24",    "--angle", "40",      "--loads",   file};
@@ -25,7 +26,7 @@ protected:
     }
 
     [[nodiscard]] LoadTable Read(const std::string& table) const {
-        test::Write_file(file, table);
+        test::Write_file(Path_of(file), table);
         return Read_loads(file);
     }
 
@@ -207,7 +208,7 @@ TEST_F(Loads, verdict_and_status_over_all) {
 
 TEST_F(Loads, what_cannot_be_calculated) {
     const Arguments arguments{"--lang", "Eng", "--bolt", "M24x8.8", "--connector", "D50", "--loads", file};
-    test::Write_file(file, table);
+    test::Write_file(Path_of(file), table);
     const ToolRun run = Tool(arguments);
     EXPECT_EQ(run.status, 3);
     EXPECT_NE(

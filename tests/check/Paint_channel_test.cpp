@@ -1,10 +1,7 @@
-// The two sides of the painting program, each at an end of a socket.
+// The two sides of the painting program, each at an end of a channel.
 #include "check/Paint_channel.h"
 
 #include <gtest/gtest.h>
-
-#include <sys/socket.h>
-#include <unistd.h>
 
 #include <array>
 #include <thread>
@@ -12,6 +9,7 @@
 #include <nlohmann/json.hpp>
 
 #include "calc/RuntimeFault.h"
+#include "platform/Partner.h"
 #include "tests/support/RecordingRendering.h"
 
 namespace tarnvik {
@@ -20,8 +18,7 @@ namespace {
 class PaintChannels : public testing::Test {
 protected:
     PaintChannels() {
-        std::array<int, 2> ends{};
-        EXPECT_EQ(socketpair(AF_UNIX, SOCK_STREAM, 0, ends.data()), 0);
+        const std::array<int, 2> ends = Make_channel();
         tool = std::make_unique<PaintChannel>(ends[0]);
         painter = std::make_unique<PaintChannel>(ends[1]);
     }
@@ -123,8 +120,7 @@ TEST_F(PaintChannels, what_is_no_call_is_a_fault) {
     using Json = nlohmann::json;
     for (const Json& line : {Json::array({"Fly", 1}), Json::array(), Json::array({1}), Json::array({"Line", 1, 2, 3}),
                              Json::array({"Print", 5}), Json::array({"FontBold", "x"}), Json(5)}) {
-        std::array<int, 2> ends{};
-        ASSERT_EQ(socketpair(AF_UNIX, SOCK_STREAM, 0, ends.data()), 0);
+        const std::array<int, 2> ends = Make_channel();
         PaintChannel sender{ends[0]};
         PaintChannel receiver{ends[1]};
         sender.Send(line);

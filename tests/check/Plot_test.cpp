@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "platform/Path.h"
 #include "tests/support/Tool.h"
 
 namespace tarnvik {
@@ -73,13 +74,13 @@ TEST(Plot, is_written_with_the_sweep) {
     const std::string file = (folder / "plot.svg").string();
     const ToolRun run = Tool(Joint({"--tension", "12", "--sweep", "angle=0:90:1", "--plot", file}));
     EXPECT_EQ(std::count(run.out.begin(), run.out.end(), '\n'), 92);
-    EXPECT_NE(test::Read_file(file).find("angle between the members, degrees"), std::string::npos);
+    EXPECT_NE(test::Read_file(Path_of(file)).find("angle between the members, degrees"), std::string::npos);
     const ToolRun nowhere = Tool(Joint({"--sweep", "angle=0:9:9", "--plot", "/nowhere/plot.svg"}));
     EXPECT_EQ(nowhere.status, 2);
     EXPECT_EQ(nowhere.err, "tarnvik-check: /nowhere/plot.svg: cannot be written: path not found\n");
     // One value alone still has an axis.
     EXPECT_EQ(Tool(Joint({"--tension", "1", "--sweep", "angle=5:5:1", "--plot", file})).status, 0);
-    EXPECT_EQ(test::Read_file(file).find("nan"), std::string::npos);
+    EXPECT_EQ(test::Read_file(Path_of(file)).find("nan"), std::string::npos);
 }
 
 SweepPoint Grid_point(double first, double second, float bolts, char mode) {
@@ -162,13 +163,13 @@ TEST(Plot, a_grid_is_written_with_the_sweep) {
     const std::string file = (folder / "grid.svg").string();
     const ToolRun run = Tool(Joint({"--sweep", "tension=0:30:10", "--sweep", "angle=0:90:15", "--plot", file}));
     EXPECT_EQ(std::count(run.out.begin(), run.out.end(), '\n'), 29);
-    const std::string svg = test::Read_file(file);
+    const std::string svg = test::Read_file(Path_of(file));
     EXPECT_NE(svg.find("angle between the members, degrees"), std::string::npos);
     EXPECT_NE(svg.find("tension, kN"), std::string::npos);
     // One value of each still is a field.
     EXPECT_EQ(
         Tool(Joint({"--tension", "1", "--sweep", "angle=5:5:1", "--sweep", "bolts=1:1:1", "--plot", file})).status, 0);
-    EXPECT_EQ(test::Read_file(file).find("nan"), std::string::npos);
+    EXPECT_EQ(test::Read_file(Path_of(file)).find("nan"), std::string::npos);
 }
 
 } // namespace

@@ -6,6 +6,7 @@
 
 #include "data/SetupFile.h"
 #include "data/Tables.h"
+#include "platform/Machine.h"
 #include "tests/support/Files.h"
 
 namespace tarnvik {

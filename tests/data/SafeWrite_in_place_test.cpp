@@ -9,7 +9,7 @@
 #include <unistd.h>
 
 #include "data/FileNames.h"
-#include "data/Folders.h"
+#include "platform/Machine.h"
 #include "tests/support/Files.h"
 #include "tests/support/Processes.h"
 

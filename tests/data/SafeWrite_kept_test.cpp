@@ -9,12 +9,11 @@
 #include <thread>
 #include <vector>
 
-#include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include "data/FileNames.h"
-#include "data/SystemFile.h"
+#include "platform/SystemFile.h"
 #include "tests/support/Files.h"
 #include "tests/support/Processes.h"
 
@@ -346,7 +345,7 @@ TEST(SafeWriteStrays, those_of_dead_processes_go_and_those_at_work_stay) {
     Write_file(folder / (".a" + end), "half");
     Write_file(folder / (".b" + end), "of another file");
     Write_file(folder / Temporary_name("a", 6), "half");
-    const SystemFile at_work = Open_file(folder / Temporary_name("a", 6), O_RDWR);
+    const SystemFile at_work = Open_file(folder / Temporary_name("a", 6), Access::read_write);
     ASSERT_EQ(Try_lock(at_work), LockResult::taken);
     Save(folder / "a", "content");
     EXPECT_FALSE(fs::exists(folder / (".a" + end)));

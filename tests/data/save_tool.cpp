@@ -16,6 +16,7 @@
 
 #include "calc/RuntimeFault.h"
 #include "data/SafeWrite.h"
+#include "platform/Path.h"
 
 namespace {
 
@@ -38,7 +39,7 @@ void Save(const std::vector<std::string>& arguments) {
     const std::string content = Content(arguments[2]);
     const SaveRequest request{asks("drop") ? OldTail::drop : OldTail::keep, asks("keep"), {}};
     Mark("/save_tool/begin");
-    const auto report = tarnvik::Safe_write(arguments[1], content, request, "save_tool");
+    const auto report = tarnvik::Safe_write(tarnvik::Path_of(arguments[1]), content, request, "save_tool");
     Mark("/save_tool/end");
     for (const auto& kept : report.kept) {
         std::cout << kept.string() << "\n";

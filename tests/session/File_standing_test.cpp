@@ -59,7 +59,7 @@ TEST_F(FileOfSession, why_an_opening_failed_until_the_next_that_works) {
     EXPECT_EQ(Line(), "Not opened: folder not found");
     session.Open_project(folder.Path().string());
     EXPECT_EQ(Line(), "Not opened: the file cannot be read");
-    Write_file(folder / "cut.tnvik", Read_file(path).substr(0, 1000));
+    Write_file(folder / "cut.tnvik", Read_file(Path_of(path)).substr(0, 1000));
     session.Open_project((folder / "cut.tnvik").string());
     EXPECT_EQ(Line(), "Not opened: not a whole project file");
     session.Open_project(path);
@@ -87,7 +87,7 @@ TEST_F(FileOfSession, what_could_not_be_opened_is_kept_when_it_is_saved_over) {
     EXPECT_EQ(Read_file(cut + "~"), "what a disk left of it");
     EXPECT_EQ(Line(), "Saved; what could not be opened is kept as cut.tnvik~");
     EXPECT_EQ(session.File().Text(false), "Lagret; det som ikke lot seg åpne, ligger i cut.tnvik~");
-    EXPECT_EQ(session.File().Paths(), fs::canonical(folder.Path()).string() + "/cut.tnvik~");
+    EXPECT_EQ(session.File().Paths(), (fs::canonical(folder.Path()) / "cut.tnvik~").string());
     EXPECT_FALSE(session.File().Failed());
     s.P = 10.0F;
     session.Save(cut); // its own now

@@ -99,7 +99,7 @@ TEST_F(SessionTest, a_failed_opening_is_told_handed_back_and_names_the_project_a
     Start();
     const std::string path = (folder / "cut.tnvik").string();
     session.Save(path);
-    std::filesystem::resize_file(path, 1000);
+    std::filesystem::resize_file(Path_of(path), 1000);
     bool shown = false;
     const auto failure = session.Open_project(path, [&] { shown = true; });
     ASSERT_TRUE(failure);

@@ -3,11 +3,10 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
-#include <stdexcept>
+#include <random>
 #include <string>
 #include <string_view>
 #include <system_error>
@@ -15,6 +14,7 @@
 #include "calc/RuntimeFault.h"
 #include "calc/Text.h"
 #include "data/ProjectFile.h"
+#include "platform/Path.h"
 #include "tests/support/Calculation.h"
 
 namespace tarnvik::test {
@@ -23,11 +23,11 @@ namespace tarnvik::test {
 class TemporaryFolder {
 public:
     TemporaryFolder() {
-        std::string name = (std::filesystem::temp_directory_path() / "tarnvik-test-XXXXXX").string();
-        if (mkdtemp(name.data()) == nullptr) {
-            throw std::runtime_error{"no temporary folder"};
-        }
-        path_ = name;
+        std::random_device random;
+        do {
+            path_ = std::filesystem::temp_directory_path() / Path_of("tarnvik-test-" + std::to_string(random()));
+        } while (!std::filesystem::create_directory(path_));
+        std::filesystem::permissions(path_, std::filesystem::perms::owner_all);
     }
     TemporaryFolder(const TemporaryFolder&) = delete;
     TemporaryFolder& operator=(const TemporaryFolder&) = delete;
@@ -37,7 +37,7 @@ public:
     }
 
     [[nodiscard]] const std::filesystem::path& Path() const { return path_; }
-    [[nodiscard]] std::filesystem::path operator/(std::string_view name) const { return path_ / name; }
+    [[nodiscard]] std::filesystem::path operator/(std::string_view name) const { return path_ / Path_of(name); }
     [[nodiscard]] std::size_t Files() const {
         return static_cast<std::size_t>(std::distance(std::filesystem::directory_iterator{path_}, {}));
     }

@@ -42,8 +42,11 @@ void Keep_message(QtMsgType type, const QMessageLogContext& /*context*/, const Q
 }
 
 // One screen that the window fits on, unless TARNVIK_TEST_SCREEN names another size such as 1366x768, of the resolution
-// that QT_FONT_DPI names: the offscreen platform does not heed that variable by itself.
+// that TARNVIK_TEST_DPI names, or QT_FONT_DPI, which the offscreen platform does not heed by itself.
 bool Use_screen(const QTemporaryDir& home) {
+    if (qEnvironmentVariableIsSet("TARNVIK_TEST_DPI")) {
+        qputenv("QT_FONT_DPI", qgetenv("TARNVIK_TEST_DPI"));
+    }
     const int dpi = qEnvironmentVariableIsSet("QT_FONT_DPI") ? qEnvironmentVariableIntValue("QT_FONT_DPI") : 96;
     const QStringList size =
         qEnvironmentVariable("TARNVIK_TEST_SCREEN", QStringLiteral("3840x2160")).split(QLatin1Char('x'));
@@ -56,7 +59,8 @@ bool Use_screen(const QTemporaryDir& home) {
                                "logicalDpi": %1, "logicalBaseDpi": %1, "dpr": 1}]})")
                    .arg(QString::number(dpi), size.constFirst(), size.constLast())
                    .toUtf8());
-    qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + QFile::encodeName(path));
+    qputenv("QT_QPA_PLATFORM",
+            "offscreen:configfile=screen.json"); // in the current folder: a drive's colon would end it
     return true;
 }
 
@@ -92,7 +96,10 @@ int main(int argc, char** argv) {
     }
     qInstallMessageHandler(Keep_message);
     testing::InitGoogleTest(&argc, argv);
+    const QString folder = QDir::currentPath();
+    QDir::setCurrent(home.path());
     QApplication application{argc, argv};
+    QDir::setCurrent(folder);
     QApplication::setApplicationName(QStringLiteral("Tarn-Vik"));
     QApplication::setQuitOnLastWindowClosed(false);
     tarnvik::Set_looks(application);

@@ -1,6 +1,6 @@
 // The walk through everything that the window can show, measured: both languages, all connections and cases, both signs
 // of the force, with and without connectors. Nothing is cut, nothing overlaps, everything stands inside its frame. Runs
-// once for each screen resolution (QT_FONT_DPI).
+// once for each screen resolution (TARNVIK_TEST_DPI).
 #include <QCheckBox>
 #include <QFontMetricsF>
 #include <QMenuBar>

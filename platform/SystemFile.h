@@ -1,15 +1,16 @@
-// A file of the operating system, by its descriptor, and the calls on it that saving is made of. They repeat what a
-// signal has interrupted. Errors: throws std::system_error, unless it says otherwise.
+// A file of the operating system and the calls on it that saving is made of. They repeat what a signal has interrupted.
+// Errors: throws std::system_error of the generic category, unless it says otherwise.
 #pragma once
 
+#include <array>
 #include <cerrno>
 #include <chrono>
 #include <cstdint>
+#include <ctime>
 #include <filesystem>
+#include <optional>
+#include <string>
 #include <string_view>
-
-#include <sys/stat.h>
-#include <sys/types.h>
 
 namespace tarnvik {
 
@@ -39,14 +40,41 @@ private:
 // The failure of the last call.
 [[noreturn]] void Throw_error(int number = errno);
 
-// As open(2), not inherited by other programs and never waiting for a pipe's other end. No file on failure; errno says
-// why.
-SystemFile Open_file(const std::filesystem::path& path, int flags, mode_t mode = 0);
+// Nothing more fits on the disk, or into what the user, or a file, may take of it.
+bool Is_disk_full(int number);
 
-struct stat Status_of(const SystemFile& file);
+// The files that are opened or made are not inherited by other programs. No file on failure; errno says why.
+enum class Access : std::uint8_t {
+    read,
+    read_write,
+};
+SystemFile Open_file(const std::filesystem::path& path, Access access);
+SystemFile Open_no_link(const std::filesystem::path& path, Access access); // nor a pipe whose other end it waits for
 
-// Two looks at the same file, with nothing written and no right changed in between.
-bool Unchanged(const struct stat& one, const struct stat& other);
+// A new one, for reading and writing; errno is EEXIST where the name is taken.
+enum class NewRights : std::uint8_t {
+    closed, // to everybody but the user
+    usual,
+};
+SystemFile Create_file(const std::filesystem::path& path, NewRights rights);
+
+// The same, closed, with "XXXXXX" in its name replaced by letters that are free; `after` letters follow them.
+SystemFile Create_file(std::string& name, std::size_t after);
+
+// Of the file itself, and when it was last written. Two looks that are equal have nothing written in between.
+struct FileStatus {
+    bool regular{};
+    std::uint64_t size{};  // bytes
+    std::uint64_t names{}; // hard links
+    std::time_t modified{};
+    std::array<std::uint64_t, 2> file{};  // the same for all names of one file alone
+    std::array<std::int64_t, 4> change{}; // times of the last change, as fine as the system has them
+
+    friend bool operator==(const FileStatus& one, const FileStatus& other) = default;
+};
+FileStatus Status_of(const SystemFile& file);
+std::optional<FileStatus> Status_of(const std::filesystem::path& path);      // nothing on failure; errno says why
+std::optional<FileStatus> Status_of_link(const std::filesystem::path& path); // the same of a link itself
 
 // At most so many bytes, fewer at the end of the file only; returns how many.
 std::size_t Read_at(const SystemFile& file, char* bytes, std::size_t count, std::uint64_t offset);
@@ -68,7 +96,11 @@ void Flush_folder(const std::filesystem::path& folder, const SystemFile& file);
 // The folder that a path lies in: "." of a bare name.
 std::filesystem::path Folder_of(const std::filesystem::path& path);
 
-// The lock of flock(2), which ends with its process, on every machine that shares the file.
+// With those above it, closed to everybody but the user, and on the disk.
+void Make_closed_folder(const std::filesystem::path& folder);
+
+// A lock that ends with its process, on every machine that shares the file. Whoever reads or writes need not ask for
+// it.
 enum class LockResult : std::uint8_t {
     taken,
     busy,
@@ -81,7 +113,13 @@ using Deadline = std::chrono::steady_clock::time_point;
 Deadline End_of_patience(); // of one that begins to wait now
 void Lock(const SystemFile& file, Deadline deadline = End_of_patience());
 
+// Gives a file the name of another one, which is gone afterwards, in one step.
+void Rename_over(const std::filesystem::path& from, const std::filesystem::path& to);
+
 // Gives a file a further name, unless it is taken: then false. `from` is gone afterwards.
 bool Rename_to_free(const std::filesystem::path& from, const std::filesystem::path& to);
+
+// False on failure; errno says why.
+bool Remove_file(const std::filesystem::path& path);
 
 } // namespace tarnvik

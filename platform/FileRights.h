@@ -1,8 +1,10 @@
-// Owner, group, mode, access list and extended attributes of a file, for another one that takes its place or keeps its
-// content. Both are open; `to` is a file of this process that nobody else may read yet (mode 0600).
+// Owner, group, mode, access list and attributes of a file, for another one that takes its place or keeps its
+// content. Both are open; `to` is a file of this process that nobody else may read yet.
 #pragma once
 
-#include "data/SystemFile.h"
+#include <filesystem>
+
+#include "platform/SystemFile.h"
 
 namespace tarnvik {
 
@@ -13,5 +15,9 @@ bool Copy_rights(const SystemFile& from, const SystemFile& to);
 // For a copy: all of them, or as many as the process may give without opening it to anybody new.
 // Errors: throws std::system_error.
 void Copy_rights_or_fewer(const SystemFile& from, const SystemFile& to);
+
+// Where everybody may make files but nobody remove another's, a copy in the folder made by anybody has no say in the
+// file. Errors: throws std::system_error.
+bool Is_trusted(const SystemFile& copy, const SystemFile& former, const std::filesystem::path& folder);
 
 } // namespace tarnvik

@@ -1,14 +1,12 @@
-#include "data/SystemFile.h"
+#include "platform/SystemFile.h"
 
-#include <algorithm>
 #include <cstdio>
 #include <system_error>
-#include <thread>
-#include <utility>
-#include <vector>
 
 #include <fcntl.h>
+#include <stdlib.h> // NOLINT(modernize-deprecated-headers): mkostemps is the system's
 #include <sys/file.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace tarnvik {
@@ -17,7 +15,9 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr std::size_t block_size = 65536;
+constexpr mode_t closed_file = 0600;
+constexpr mode_t closed_folder = 0700;
+constexpr mode_t of_a_new_file = 0666; // less what the umask takes
 
 template <class Call> auto Repeat(Call call) {
     for (;;) {
@@ -34,21 +34,29 @@ void Check(int result) {
     }
 }
 
-} // namespace
-
-SystemFile& SystemFile::operator=(SystemFile&& other) noexcept {
-    std::swap(descriptor_, other.descriptor_);
-    return *this;
+SystemFile Open(const fs::path& path, int flags, mode_t mode = 0) {
+    return SystemFile{Repeat([&] { return open(path.c_str(), flags | O_CLOEXEC | O_NOCTTY, mode); })};
 }
+
+int Flags_of(Access access) {
+    return access == Access::read ? O_RDONLY : O_RDWR;
+}
+
+FileStatus Plain(const struct stat& status) {
+    return {S_ISREG(status.st_mode),
+            static_cast<std::uint64_t>(status.st_size),
+            status.st_nlink,
+            status.st_mtim.tv_sec,
+            {status.st_dev, status.st_ino},
+            {status.st_mtim.tv_sec, status.st_mtim.tv_nsec, status.st_ctim.tv_sec, status.st_ctim.tv_nsec}};
+}
+
+} // namespace
 
 SystemFile::~SystemFile() {
     if (descriptor_ >= 0) {
         close(descriptor_);
     }
-}
-
-int SystemFile::Release() {
-    return std::exchange(descriptor_, -1);
 }
 
 void SystemFile::Close() {
@@ -57,26 +65,41 @@ void SystemFile::Close() {
     }
 }
 
-void Throw_error(int number) {
-    throw std::system_error{number, std::generic_category()};
+bool Is_disk_full(int number) {
+    return number == ENOSPC || number == EDQUOT || number == EFBIG;
 }
 
-SystemFile Open_file(const fs::path& path, int flags, mode_t mode) {
-    return SystemFile{Repeat([&] { return open(path.c_str(), flags | O_CLOEXEC | O_NOCTTY, mode); })};
+SystemFile Open_file(const fs::path& path, Access access) {
+    return Open(path, Flags_of(access));
 }
 
-struct stat Status_of(const SystemFile& file) {
+SystemFile Open_no_link(const fs::path& path, Access access) {
+    return Open(path, Flags_of(access) | O_NOFOLLOW | O_NONBLOCK);
+}
+
+SystemFile Create_file(const fs::path& path, NewRights rights) {
+    return Open(path, O_RDWR | O_CREAT | O_EXCL | O_NOFOLLOW,
+                rights == NewRights::closed ? closed_file : of_a_new_file);
+}
+
+SystemFile Create_file(std::string& name, std::size_t after) {
+    return SystemFile{mkostemps(name.data(), static_cast<int>(after), O_CLOEXEC)}; // mode 0600
+}
+
+FileStatus Status_of(const SystemFile& file) {
     struct stat status {};
     Check(fstat(file.Get(), &status));
-    return status;
+    return Plain(status);
 }
 
-bool Unchanged(const struct stat& one, const struct stat& other) {
-    const auto same = [](const timespec& a, const timespec& b) {
-        return a.tv_sec == b.tv_sec && a.tv_nsec == b.tv_nsec;
-    };
-    return one.st_dev == other.st_dev && one.st_ino == other.st_ino && one.st_size == other.st_size &&
-           same(one.st_mtim, other.st_mtim) && same(one.st_ctim, other.st_ctim);
+std::optional<FileStatus> Status_of(const fs::path& path) {
+    struct stat status {};
+    return stat(path.c_str(), &status) == 0 ? std::optional{Plain(status)} : std::nullopt;
+}
+
+std::optional<FileStatus> Status_of_link(const fs::path& path) {
+    struct stat status {};
+    return lstat(path.c_str(), &status) == 0 ? std::optional{Plain(status)} : std::nullopt;
 }
 
 std::size_t Read_at(const SystemFile& file, char* bytes, std::size_t count, std::uint64_t offset) {
@@ -111,44 +134,12 @@ void Cut_at(const SystemFile& file, std::uint64_t size) {
     Check(Repeat([&] { return ftruncate(file.Get(), static_cast<off_t>(size)); }));
 }
 
-void Copy_from(const SystemFile& from, std::uint64_t offset, const SystemFile& to) {
-    std::vector<char> block(block_size);
-    std::vector<char> there(block_size);
-    for (;;) {
-        const std::size_t count = Read_at(from, block.data(), block.size(), offset);
-        if (count == 0) {
-            return;
-        }
-        const std::string_view bytes{block.data(), count};
-        if (bytes != std::string_view{there.data(), Read_at(to, there.data(), count, offset)}) {
-            Write_at(to, bytes, offset);
-        }
-        offset += count;
-    }
-}
-
-bool Same_content(const SystemFile& one, const SystemFile& other) {
-    std::vector<char> block(block_size);
-    std::vector<char> there(block_size);
-    for (std::uint64_t offset = 0;;) {
-        const std::size_t count = Read_at(one, block.data(), block.size(), offset);
-        const std::size_t other_count = Read_at(other, there.data(), there.size(), offset);
-        if (std::string_view{block.data(), count} != std::string_view{there.data(), other_count}) {
-            return false;
-        }
-        if (count == 0) {
-            return true;
-        }
-        offset += count;
-    }
-}
-
 void Flush(const SystemFile& file) {
     Check(Repeat([&] { return fsync(file.Get()); }));
 }
 
 void Flush_folder(const fs::path& folder, const SystemFile& file) {
-    const SystemFile names = Open_file(folder, O_RDONLY | O_DIRECTORY);
+    const SystemFile names = Open(folder, O_RDONLY | O_DIRECTORY);
     if (!names) {
         if (errno != EACCES) {
             Throw_error();
@@ -161,10 +152,6 @@ void Flush_folder(const fs::path& folder, const SystemFile& file) {
     }
 }
 
-fs::path Folder_of(const fs::path& path) {
-    return path.has_parent_path() ? path.parent_path() : fs::path{"."};
-}
-
 LockResult Try_lock(const SystemFile& file) {
     if (Repeat([&] { return flock(file.Get(), LOCK_EX | LOCK_NB); }) == 0) {
         return LockResult::taken;
@@ -172,17 +159,19 @@ LockResult Try_lock(const SystemFile& file) {
     return errno == EWOULDBLOCK ? LockResult::busy : LockResult::none_here;
 }
 
-Deadline End_of_patience() {
-    return std::chrono::steady_clock::now() + std::chrono::seconds{5};
+void Make_closed_folder(const fs::path& folder) {
+    if (fs::is_directory(folder)) {
+        return;
+    }
+    Make_closed_folder(folder.parent_path());
+    if (mkdir(folder.c_str(), closed_folder) != 0 && errno != EEXIST) {
+        Throw_error();
+    }
+    Flush_folder(folder.parent_path(), Open(folder, O_RDONLY | O_DIRECTORY));
 }
 
-void Lock(const SystemFile& file, Deadline deadline) {
-    while (Try_lock(file) == LockResult::busy) {
-        if (std::chrono::steady_clock::now() > deadline) {
-            Throw_error(EAGAIN);
-        }
-        std::this_thread::sleep_for(std::chrono::milliseconds{1});
-    }
+void Rename_over(const fs::path& from, const fs::path& to) {
+    Check(std::rename(from.c_str(), to.c_str()));
 }
 
 bool Rename_to_free(const fs::path& from, const fs::path& to) {
@@ -203,6 +192,10 @@ bool Rename_to_free(const fs::path& from, const fs::path& to) {
     }
     Check(unlink(from.c_str()));
     return true;
+}
+
+bool Remove_file(const fs::path& path) {
+    return unlink(path.c_str()) == 0;
 }
 
 } // namespace tarnvik

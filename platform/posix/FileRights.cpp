@@ -1,4 +1,4 @@
-#include "data/FileRights.h"
+#include "platform/FileRights.h"
 
 #include <algorithm>
 #include <array>
@@ -8,6 +8,7 @@
 #include <string_view>
 #include <system_error>
 
+#include <sys/stat.h>
 #include <sys/xattr.h>
 #include <unistd.h>
 
@@ -21,6 +22,14 @@ constexpr mode_t all_bits = 07777;
 
 // What belongs to the bytes of a file and not to its name: the system makes it anew, or drops it at every write.
 constexpr std::array<std::string_view, 3> of_the_bytes{"security.capability", "security.evm", "security.ima"};
+
+struct stat Rights_of(const SystemFile& file) {
+    struct stat status {};
+    if (fstat(file.Get(), &status) != 0) {
+        Throw_error();
+    }
+    return status;
+}
 
 bool Without_attributes(int error) {
     return error == ENODATA || error == ENOTSUP;
@@ -94,12 +103,12 @@ bool Give_attributes(const SystemFile& from, const SystemFile& to) {
 }
 
 bool Give_owner(const SystemFile& to, uid_t owner, gid_t group) {
-    const struct stat now = Status_of(to);
+    const struct stat now = Rights_of(to);
     return (now.st_uid == owner && now.st_gid == group) || fchown(to.Get(), owner, group) == 0;
 }
 
 bool Give_mode(const SystemFile& to, mode_t mode) {
-    return (Status_of(to).st_mode & all_bits) == mode || fchmod(to.Get(), mode) == 0;
+    return (Rights_of(to).st_mode & all_bits) == mode || fchmod(to.Get(), mode) == 0;
 }
 
 // The access list is set before the mode: on a folder with a default list the new file has inherited one, and the
@@ -110,12 +119,12 @@ bool Give_access(const SystemFile& from, const SystemFile& to, mode_t mode) {
 
 // The owner first: a change of owner takes bits of the mode away.
 bool Give_all(const SystemFile& from, const SystemFile& to) {
-    const struct stat old = Status_of(from);
+    const struct stat old = Rights_of(from);
     const mode_t mode = old.st_mode & all_bits;
     if (!Give_owner(to, old.st_uid, old.st_gid) || !Give_attributes(from, to) || !Give_access(from, to, mode)) {
         return false;
     }
-    const struct stat now = Status_of(to); // some file systems take a change and do not make it
+    const struct stat now = Rights_of(to); // some file systems take a change and do not make it
     return now.st_uid == old.st_uid && now.st_gid == old.st_gid && (now.st_mode & all_bits) == mode;
 }
 
@@ -142,7 +151,7 @@ void Copy_rights_or_fewer(const SystemFile& from, const SystemFile& to) {
     if (Copy_rights(from, to)) {
         return;
     }
-    const struct stat old = Status_of(from);
+    const struct stat old = Rights_of(from);
     const mode_t bits = old.st_mode & 0777U;
     if (Give_owner(to, static_cast<uid_t>(-1), old.st_gid)) {
         if (!Give_access(from, to, bits)) {
@@ -155,6 +164,16 @@ void Copy_rights_or_fewer(const SystemFile& from, const SystemFile& to) {
             Close_again(to);
         }
     }
+}
+
+bool Is_trusted(const SystemFile& copy, const SystemFile& former, const std::filesystem::path& folder) {
+    const struct stat status = Rights_of(copy);
+    struct stat around {};
+    if (stat(folder.c_str(), &around) != 0) {
+        Throw_error();
+    }
+    return status.st_uid == geteuid() || status.st_uid == 0 || status.st_uid == Rights_of(former).st_uid ||
+           (around.st_mode & static_cast<mode_t>(S_ISVTX)) == 0;
 }
 
 } // namespace tarnvik

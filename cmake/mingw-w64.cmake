@@ -1,0 +1,17 @@
+# Cross-compiling for 64-bit Windows with Debian's g++-mingw-w64-x86-64-posix. What else is built for Windows lies where
+# packaging/windows/libraries.sh and qt.sh put it.
+set(CMAKE_SYSTEM_NAME Windows)
+set(CMAKE_SYSTEM_PROCESSOR x86_64)
+set(triple x86_64-w64-mingw32)
+set(CMAKE_C_COMPILER ${triple}-gcc-posix)
+set(CMAKE_CXX_COMPILER ${triple}-g++-posix)
+set(CMAKE_RC_COMPILER ${triple}-windres)
+set(built $ENV{TARNVIK_WINDOWS})
+if(NOT built)
+  get_filename_component(built ${CMAKE_CURRENT_LIST_DIR}/../build/windows ABSOLUTE)
+endif()
+set(CMAKE_FIND_ROOT_PATH /usr/${triple} ${built}/libraries ${built}/qt)
+set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
+set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
+set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
+set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)

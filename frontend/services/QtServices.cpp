@@ -6,18 +6,14 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMessageBox>
-#include <QPageSize>
-#include <QPrintDialog>
-#include <QPrinter>
 #include <QPushButton>
-#include <QRegularExpression>
 #include <QSettings>
 #include <QUrl>
 
 #include <algorithm>
 
-#include "frontend/painting/QtPrintTarget.h"
 #include "frontend/painting/Texts.h"
+#include "frontend/services/PrinterDialog.h"
 
 namespace tarnvik {
 
@@ -25,15 +21,6 @@ namespace {
 
 QSettings Open_settings(std::string_view application) {
     return QSettings{QSettings::NativeFormat, QSettings::UserScope, Q(application), Q(application)};
-}
-
-// Where the report would go as a file: named as the document is, in letters that every file system holds.
-QString Pdf_path(const std::string& document) {
-    constexpr qsizetype longest = 80; // letters, which never take 255 bytes together
-    QString name = Q(document);
-    static const QRegularExpression held_nowhere{QStringLiteral(R"([/\\:*?"<>|\x00-\x1f\x7f])")};
-    name = name.replace(held_nowhere, QStringLiteral("-")).left(longest).trimmed();
-    return QDir::current().filePath((name.isEmpty() ? QStringLiteral("Tarnvik") : name) + QStringLiteral(".pdf"));
 }
 
 void Write_words(QFileDialog& dialog, const FileRequest& request) {
@@ -149,33 +136,7 @@ std::optional<std::string> QtFileDialogs::Save(const FileRequest& request) {
 }
 
 std::unique_ptr<PrintTarget> QtPrinterService::Show_printer(const PrinterRequest& request) {
-    auto printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
-    printer->setPageSize(QPageSize{QPageSize::A4}); // what the report is laid out for
-    printer->setDocName(Q(request.document));
-    printer->setCreator(Program_name());
-    const QPrinter::OutputFormat format = printer->outputFormat(); // of the default printer, PDF where there is none
-    printer->setOutputFileName(Pdf_path(request.document));        // makes it PDF
-    printer->setOutputFormat(format);
-    QPrintDialog dialog{printer.get(), QApplication::activeWindow()};
-    dialog.setObjectName(QStringLiteral("PrinterDialog"));
-    dialog.setWindowTitle(Q(request.caption));
-    dialog.setOption(QPrintDialog::PrintSelection, (request.flags & no_selection) == 0);
-    // The report is always printed whole. The box for printing to a file, which the flags hide, is the entry "Print to
-    // File (PDF)" of the list of printers here: it stays, as the printer of a machine without one.
-    dialog.setOption(QPrintDialog::PrintPageRange, false);
-    // The toolkit shows the choice of pages whenever it shows the dialog, whatever the option says.
-    if (auto* pages = dialog.findChild<QWidget*>(QStringLiteral("gbPrintRange"))) {
-        pages->setEnabled(false);
-        pages->setFixedSize(0, 0);
-    }
-    dialog.setOption(QPrintDialog::PrintToFile, true);
-    if (dialog.exec() != QDialog::Accepted) {
-        return nullptr;
-    }
-    if (printer->outputFormat() == QPrinter::PdfFormat) {
-        return Pdf_target(printer->outputFileName().toStdString(), request.document, printer->pageLayout());
-    }
-    return Printer_target(std::move(printer));
+    return Ask_for_printer(request);
 }
 
 bool QtDocumentOpener::Open_file(const std::string& path) {

@@ -13,6 +13,7 @@
 #include <utility>
 #include <vector>
 
+#include "frontend/services/PrinterDialog.h"
 #include "frontend/services/QtServices.h"
 #include "report/PrintReport.h"
 #include "tests/support/Window.h"
@@ -50,6 +51,24 @@ TEST_F(PrinterDialog, cancelled_gives_no_job) {
     Start();
     In_dialog([&](QWidget& dialog) { dynamic_cast<QDialog&>(dialog).reject(); });
     EXPECT_EQ(service.Show_printer({1048580, "Report"}), nullptr);
+}
+
+TEST_F(PrinterDialog, a_file_dialog_leads_to_pdf_where_there_is_no_printer) {
+    Start();
+    const std::filesystem::path file = work / "på valgt sted"; // gets the ending
+    In_dialog([&](QWidget& dialog) {
+        EXPECT_EQ(dialog.objectName(), QStringLiteral("PdfDialog"));
+        EXPECT_EQ(dialog.windowTitle(), QStringLiteral("Skriv ut"));
+        EXPECT_EQ(Find_in<QLineEdit>(dialog, "fileNameEdit").text(), QStringLiteral("Hall A-B.pdf"));
+        Find_in<QLineEdit>(dialog, "fileNameEdit").setText(QString::fromStdString(file.string()));
+        dynamic_cast<QDialog&>(dialog).accept();
+    });
+    const auto target = Ask_for_pdf({1048580, "Hall A/B", "Skriv ut"});
+    ASSERT_NE(target, nullptr);
+    target->EndDoc();
+    EXPECT_TRUE(Read_file(file.string() + ".pdf").starts_with("%PDF"));
+    In_dialog([&](QWidget& dialog) { dynamic_cast<QDialog&>(dialog).reject(); });
+    EXPECT_EQ(Ask_for_pdf({1048580, "Hall A/B"}), nullptr);
 }
 
 TEST_F(PrinterDialog, starts_with_a_file_named_as_the_document_is) {

@@ -19,6 +19,7 @@ install_missing "${build_packages[@]}" "${test_packages[@]}" dpkg-dev
 
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
+chmod 755 "$work" # some of the tests are made as another user
 mkdir -p "$out" "$work/source"
 git archive "$revision" | tar -x -C "$work/source"
 cd "$work/source"

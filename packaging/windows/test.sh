@@ -20,7 +20,7 @@ fail() {
 }
 
 # Libraries beside the tests, as they lie in the folder.
-cp "$TARNVIK_WINDOWS/stage/Tarnvik-$version"/*.dll "$bin/"
+cp "$TARNVIK_WINDOWS/stage/Tarnvik-$version"/*.dll "$TARNVIK_WINDOWS/qt/bin/Qt6Test.dll" "$bin/"
 cp -r "$TARNVIK_WINDOWS/stage/Tarnvik-$version/plugins" "$TARNVIK_WINDOWS/stage/Tarnvik-$version/qt.conf" "$bin/"
 
 ctest --preset windows --output-on-failure 2>&1 | tee "$work/ctest.log"

@@ -499,7 +499,7 @@ TEST_F(Files, a_recent_entry_opens_its_file) {
     Know({"/1", "/2", path, "/4"});
     Start();
     s.P = 44.0F;
-    Save_project(s, path);
+    Save_project(s, Path_of(path));
     s.P = 10.0F;
     Menu("mnurecentfile(3)");
     EXPECT_TRUE(boxes.messages.empty());

@@ -1,5 +1,6 @@
 // The window on a screen that is too small for it, or made smaller by the user: every control keeps its place, and all
-// of it is reached. Runs on the screens of small computers (TARNVIK_TEST_SCREEN) at their resolutions (TARNVIK_TEST_DPI).
+// of it is reached. Runs on the screens of small computers (TARNVIK_TEST_SCREEN) at their resolutions
+// (TARNVIK_TEST_DPI).
 #include <QPushButton>
 #include <QScreen>
 #include <QScrollBar>

@@ -268,7 +268,7 @@ TEST_F(FileDialog, open_gives_the_path_of_a_file_that_exists) {
         EXPECT_TRUE(dialog.nameFilters().constFirst().contains(QLatin1String("*.tnvik")));
         Name(dialog, "one.tnvik");
     });
-    EXPECT_EQ(dialogs.Open({"*.tnvik", "*.tnvik", "", 4100}), (folder / "one.tnvik").string());
+    EXPECT_EQ(dialogs.Open({"*.tnvik", "*.tnvik", "", 4100}), (folder / "one.tnvik").generic_string());
 }
 
 TEST_F(FileDialog, both_say_what_they_are_asked_to) {
@@ -301,7 +301,7 @@ TEST_F(FileDialog, save_starts_with_the_name_and_adds_the_extension) {
         EXPECT_EQ(Text_of(Find_in<QLineEdit>(dialog, "fileNameEdit")), "New File");
         Name(dialog, "another");
     });
-    EXPECT_EQ(dialogs.Save({"*.tnvik", "New File", "tnvik", 6}), (folder / "another.tnvik").string());
+    EXPECT_EQ(dialogs.Save({"*.tnvik", "New File", "tnvik", 6}), (folder / "another.tnvik").generic_string());
 }
 
 TEST_F(FileDialog, save_asks_before_it_writes_over) {

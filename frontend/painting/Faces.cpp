@@ -53,7 +53,7 @@ QString Serif_family() {
 }
 
 QString Family_for(std::string_view name) {
-    const QString asked = Q(name);
+    QString asked = Q(name);
     for (const Stand_in& one : stand_ins) {
         if (asked.compare(QLatin1String(one.name), Qt::CaseInsensitive) == 0) {
             return one.family();

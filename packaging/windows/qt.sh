@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Debian's Qt 6 (qt6-base, the version that the Linux build has too) for Windows, as DLLs, in the folder qt below
-# $TARNVIK_WINDOWS (build/windows where nothing is said). It takes 40 minutes of one processor and 2.5 GB; what is there is not
+# $TARNVIK_WINDOWS (build/windows where nothing is said). It takes 40 minutes of one processor and 1.5 GB; what is there is not
 # built again. What the program has no use for is left out.
 set -euo pipefail
 repository=$(cd "$(dirname "$0")/../.." && pwd)

@@ -72,16 +72,20 @@ install_missing() {
         "${apt[@]}" install -y --no-install-recommends "${missing[@]}" </dev/null
 }
 
-# Lets apt-get fetch sources of Debian's packages, where nothing does so yet. Needs root, or sudo.
+# Lets apt-get fetch sources of Debian's packages, from where it has the packages themselves, where it does not do so yet.
+# Needs root, or sudo.
 install_sources() {
     if apt-get -q source --print-uris libcsv >/dev/null 2>&1; then
         return 0
     fi
-    local line="deb-src [signed-by=/usr/share/keyrings/debian-archive-keyring.gpg] http://deb.debian.org/debian bookworm main"
+    local folder=/etc/apt/sources.list.d
     local -a root=()
     if [ "$(id -u)" -ne 0 ]; then
         root=(sudo -n)
     fi
-    echo "$line" | "${root[@]}" tee /etc/apt/sources.list.d/tarnvik-sources.list >/dev/null &&
+    find /etc/apt -maxdepth 2 -name '*.list' ! -name 'tarnvik-*' -exec sed -n 's/^deb /deb-src /p' {} + |
+        "${root[@]}" tee "$folder/tarnvik-sources.list" >/dev/null &&
+        find "$folder" -name '*.sources' ! -name 'tarnvik-*' -exec sed -s -e 's/^Types:.*/Types: deb-src/' -e '$G' {} + |
+        "${root[@]}" tee "$folder/tarnvik-sources.sources" >/dev/null &&
         "${root[@]}" apt-get -q -o Acquire::Retries=3 update </dev/null
 }

@@ -76,12 +76,15 @@ if [ -n "${SHOT:-}" ]; then
     tell "the window opens a project by xdg-open and fills the user's folder: $shot"
 
     main=$(DISPLAY=:93 xdotool search --onlyvisible --name '^Tarnvik' | tail -1)
+    DISPLAY=:93 xdotool key Return # the word of the first start
+    sleep 1
     DISPLAY=:93 xdotool key ctrl+p
     DISPLAY=:93 timeout 20 xdotool search --sync --onlyvisible --name '^Print$' >/dev/null
     sleep 1
+    DISPLAY=:93 import -window root "${shot%.png}-print.png"
     DISPLAY=:93 xdotool key Return
-    sleep 2
-    printed=$(find "$root/home/engineer" "$root/tmp" "$root"/*.pdf -maxdepth 1 -name '*.pdf' -newer "$shot" 2>/dev/null | head -1)
+    sleep 3
+    printed=$(find "$root" -xdev -maxdepth 3 -name '*.pdf' -newer "$shot" -print -quit)
     head -c 5 "$printed" | grep -q '%PDF-'
     tell "it prints a PDF: ${printed#"$root"}"
 

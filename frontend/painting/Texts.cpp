@@ -25,6 +25,7 @@ QColor To_colour(std::uint32_t colour) {
 QFont Text_font(double points) {
     QFont font{Sans_family()};
     font.setPointSizeF(points);
+    font.setHintingPreference(QFont::PreferVerticalHinting); // others, if asked for, round the widths of letters
     return font;
 }
 

@@ -13,8 +13,6 @@ exec </dev/null
 
 out=$(realpath -m "${1:-release}")
 export TARNVIK_WINDOWS=${TARNVIK_WINDOWS:-$repository/build/windows}
-SOURCE_DATE_EPOCH=${SOURCE_DATE_EPOCH:-$(git log -1 --format=%ct)}
-export SOURCE_DATE_EPOCH
 step() {
     printf '\n=== %s (after %d s)\n' "$1" "$SECONDS"
 }
@@ -23,6 +21,9 @@ step "packages of Debian"
 . tools/setup.sh
 install_sources
 install_missing "${build_packages[@]}" "${windows_packages[@]}" "${windows_release_packages[@]}"
+
+SOURCE_DATE_EPOCH=${SOURCE_DATE_EPOCH:-$(git log -1 --format=%ct)}
+export SOURCE_DATE_EPOCH
 
 step "libraries"
 packaging/windows/libraries.sh

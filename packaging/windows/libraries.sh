@@ -18,6 +18,10 @@ for source in simdjson libcsv; do
     dpkg-source --no-check -x "$work"/sources/"$source"_*.dsc "$work/$source-source"
 done
 
+# The same files whenever they are built.
+SOURCE_DATE_EPOCH=$(dpkg-parsechangelog -l "$work/libcsv-source/debian/changelog" -S Timestamp)
+export SOURCE_DATE_EPOCH
+
 # Headers alone, as they are; /usr/include itself must not be seen.
 cp -r /usr/include/nlohmann "$prefix/include/"
 cp -r /usr/share/cmake/nlohmann_json "$prefix/share/cmake/"

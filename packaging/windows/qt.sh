@@ -15,9 +15,15 @@ mkdir -p "$work/sources"
 rm -rf "$work/qt-source" "$work/qt-build" "$work/qt"
 dpkg-source --no-check -x "$work"/sources/qt6-base_*.dsc "$work/qt-source"
 
+# The same files whenever and wherever they are built: the time of Debian's source, no path of this machine.
+SOURCE_DATE_EPOCH=$(dpkg-parsechangelog -l "$work/qt-source/debian/changelog" -S Timestamp)
+export SOURCE_DATE_EPOCH
+paths="-ffile-prefix-map=$work=."
+
 cmake -G Ninja -S "$work/qt-source" -B "$work/qt-build" \
     -DCMAKE_TOOLCHAIN_FILE="$repository/cmake/mingw-w64.cmake" \
     -DCMAKE_BUILD_TYPE=Release -DBUILD_SHARED_LIBS=ON -DCMAKE_INSTALL_PREFIX="$work/qt" \
+    -DCMAKE_C_FLAGS="$paths" -DCMAKE_CXX_FLAGS="$paths" \
     -DQT_QMAKE_TARGET_MKSPEC=win32-g++ -DQT_QMAKE_DEVICE_OPTIONS=CROSS_COMPILE=x86_64-w64-mingw32- \
     -DQT_HOST_PATH=/usr -DQT_HOST_PATH_CMAKE_DIR=/usr/lib/x86_64-linux-gnu/cmake \
     -DQT_BUILD_EXAMPLES=OFF -DQT_BUILD_TESTS=OFF -DQT_BUILD_TOOLS_BY_DEFAULT=OFF \

@@ -44,22 +44,6 @@ TEST_F(SafeWriteOnWindows, a_new_file_and_the_same_again) {
     EXPECT_EQ(folder.Files(), 1U);
 }
 
-TEST_F(SafeWriteOnWindows, a_longer_file_keeps_its_tail) {
-    test::Write_file(file, "0123456789");
-    EXPECT_EQ(Save(file, "abc", {OldTail::keep}), 0);
-    EXPECT_EQ(test::Read_file(file), "abc3456789");
-}
-
-TEST_F(SafeWriteOnWindows, what_the_saver_does_not_know_is_kept) {
-    test::Write_file(file, "of somebody else");
-    SaveRequest request{OldTail::drop};
-    request.known = FileIdentity{};
-    EXPECT_EQ(Save(file, "mine", request), 0);
-    ASSERT_EQ(report.kept.size(), 1U);
-    EXPECT_EQ(report.kept.front().filename(), fs::path{u8"bjørk nå.tnvik~"});
-    EXPECT_EQ(test::Read_file(report.kept.front()), "of somebody else");
-}
-
 TEST_F(SafeWriteOnWindows, a_file_that_others_read_is_replaced_or_written_over) {
     test::Write_file(file, "before");
     const HANDLE reader = Open_elsewhere(FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE);
@@ -98,11 +82,6 @@ TEST_F(SafeWriteOnWindows, a_hidden_file_stays_hidden) {
     SetFileAttributesW(file.c_str(), FILE_ATTRIBUTE_HIDDEN);
     EXPECT_EQ(Save(file, "after"), 0);
     EXPECT_NE(GetFileAttributesW(file.c_str()) & FILE_ATTRIBUTE_HIDDEN, 0U);
-}
-
-TEST_F(SafeWriteOnWindows, no_folder_and_a_folder_in_place_of_the_file) {
-    EXPECT_EQ(Save(folder / "none" / "file.tnvik", "content"), fault_path_not_found);
-    EXPECT_EQ(Save(folder.Path(), "content"), fault_path_access);
 }
 
 TEST_F(SafeWriteOnWindows, a_name_with_the_mark_of_the_system_in_front_as_on_a_network) {

@@ -34,8 +34,11 @@ def words(report):
     return found
 
 
-def faces(report):
-    return [line.split()[0] for line in run(["pdffonts", report], report.parent).splitlines()[2:]]
+def faces_and_form(report):
+    """The faces; title, pages, their size and what else a file says of itself."""
+    faces = [line.split()[0] for line in run(["pdffonts", report], report.parent).splitlines()[2:]]
+    form = [line for line in run(["pdfinfo", report], report.parent).splitlines() if not line.startswith(("CreationDate:", "File size:"))]
+    return faces + form
 
 
 def compare(what, here, there):
@@ -68,7 +71,7 @@ def main():
         reports = sorted((folder / "here").glob("*.pdf"))
         for report in reports:
             farthest.append(compare_words(report.name, words(report), words(folder / "there" / report.name)))
-            compare(f"faces of {report.name}", faces(report), faces(folder / "there" / report.name))
+            compare(f"faces of {report.name}", faces_and_form(report), faces_and_form(folder / "there" / report.name))
             count += len(words(report))
         pictures = {side: {path.relative_to(folder / side).as_posix(): path.read_bytes() for path in (folder / side).rglob("*.svg")}
                     for side in ("here", "there")}

@@ -119,8 +119,8 @@ TEST_F(RecoveryOfWork, the_file_holds_what_a_save_would_write_and_goes_with_the_
     EXPECT_EQ(Recovered_project(Read_file(file)), "");
     Enter_value("Txt_last", "18");
     Be_idle();
-    EXPECT_EQ(Files(), std::vector{file}); // one, whatever happens
-    Load_project(recovered, record, file);
+    ASSERT_EQ(Files().size(), 1U); // one, whatever happens
+    Load_project(recovered, record, Files().front());
     EXPECT_EQ(record.P, 18.0F);
     dialogs.answer = (work / "house.tnvik").string();
     Menu("mnuFileItem(3)");

@@ -14,7 +14,9 @@
 
 #include "calc/Text.h"
 #include "frontend/controls/Style.h"
+#include "platform/Path.h"
 #include "tests/support/Fakes.h"
+#include "tests/support/Home.h"
 
 namespace tarnvik::test {
 
@@ -82,13 +84,8 @@ int main(int argc, char** argv) {
     qunsetenv("QT_SCALE_FACTOR");
     qunsetenv("QT_STYLE_OVERRIDE");
     const QTemporaryDir home;
-    if (!home.isValid()) {
+    if (!home.isValid() || !tarnvik::test::Move_home(tarnvik::Path_of(home.path().toStdString()))) {
         return 1;
-    }
-    const QByteArray path = QFile::encodeName(home.path());
-    qputenv("HOME", path);
-    for (const char* name : {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME", "XDG_RUNTIME_DIR"}) {
-        qputenv(name, path);
     }
     qputenv("CUPS_SERVER",
             QFile::encodeName(home.filePath(QStringLiteral("cups.sock")))); // none of the machine's printers

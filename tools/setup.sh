@@ -27,7 +27,7 @@ windows_packages=(
     g++-mingw-w64-x86-64-posix wine64 dpkg-dev googletest
 )
 windows_release_packages=(
-    git nsis zip unzip qt6-base-dev-tools mingw-w64-common xvfb xauth
+    git nsis zip unzip qt6-base-dev-tools mingw-w64-common xvfb x11-utils jwm xdotool imagemagick
 )
 
 # What tools/make_manual.py sets the manual with; the PDF is committed, so that nothing else needs them.

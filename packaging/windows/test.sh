@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # test.sh FOLDER: what packaging/windows/build.sh left in FOLDER, under Wine: the tests of the core and of the window, the tool
-# against that of this machine, which is built for it, the zip, the installer silently there and back. Exit status 1 where something
-# is wrong.
+# against that of this machine, which is built for it, the zip, the installer silently there and back, the installed program as a user
+# drives it (FOLDER/pictures). Exit status 1 where something is wrong.
 set -euo pipefail
 cd "$(dirname "$0")/../.."
 repository=$PWD
@@ -28,7 +28,7 @@ grep -q '100% tests passed, 0 tests failed out of [1-9]' "$work/ctest.log" || fa
 
 echo "The tool of this machine, and what both make"
 cmake --preset release >"$work/build.log"
-cmake --build --preset release --parallel "${TARNVIK_JOBS:-$(nproc)}" --target tarnvik-check tarnvik-paint >>"$work/build.log" ||
+cmake --build --preset release --parallel "${TARNVIK_JOBS:-$(nproc)}" --target tarnvik tarnvik-check tarnvik-paint >>"$work/build.log" ||
     fail "not built: $(tail "$work/build.log")"
 for script in same_results same_report; do
     python3 "tests/windows/$script.py" build/release/bin/tarnvik-check "$wine" "$bin/tarnvik-check.exe"
@@ -69,4 +69,9 @@ for key in 'Classes\.tnvik' 'Classes\Tarnvik.Project' 'Microsoft\Windows\Current
     ! registry "HKCU\\Software\\$key" || fail "left in the registry: $key"
 done
 [ -z "$(find "$TARNVIK_WINDOWS/wine/drive_c/users" -name 'Tarnvik*.lnk')" ] || fail "the shortcut is left"
+
+echo "The window, beside that of this machine"
+for dpi in 96 144; do
+    packaging/windows/drive.sh "$out" "$out/pictures/$dpi" "$dpi"
+done
 echo "All as it should be"

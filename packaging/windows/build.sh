@@ -50,8 +50,8 @@ rm -f "$out/$name-win64.zip" "$out/$name-setup.exe"
 rm "$stage/$name/tarnvik.folder" # installed, the tables are the user's own
 (
     cd "$stage/$name"
-    find . -type f -printf 'Delete "$INSTDIR\\%P"\n' | tr / '\\'
-    find . -mindepth 1 -depth -type d -printf 'RMDir "$INSTDIR\\%P"\n' | tr / '\\'
+    find . -type f -printf 'Delete "$INSTDIR\\%P"\n' | tr / '\\' | LC_ALL=C sort
+    find . -mindepth 1 -type d -printf 'RMDir "$INSTDIR\\%P"\n' | tr / '\\' | LC_ALL=C sort -r
 ) >"$stage/files.nsh"
 (cd packaging/windows && makensis -V2 "-DVERSION=$version" "-DFOLDER=$stage/$name" "-DFILELIST=$stage/files.nsh" \
     "-DSIZE=$(du -sk "$stage/$name" | cut -f1)" "-DOUTPUT=$out/$name-setup.exe" installer.nsi)

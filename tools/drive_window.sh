@@ -14,7 +14,8 @@ if [ $# -lt 1 ] || [ $# -gt 2 ]; then
 fi
 mkdir -p "$1"
 out=$(cd "$1" && pwd)
-program=$(realpath "${2:-$(dirname "$0")/../build/release/bin/tarnvik}")
+tools=$(dirname "$(realpath "$0")")
+program=$(realpath "${2:-$tools/../build/release/bin/tarnvik}")
 export DISPLAY=${DRIVE_DISPLAY:-:88}
 
 work=$(mktemp -d)
@@ -24,29 +25,10 @@ cp "$program" "$(dirname "$program")"/*.csv "$(dirname "$program")/tarnvik.folde
 export HOME=$work/home XDG_RUNTIME_DIR=$work/runtime LC_ALL=C.UTF-8
 unset XDG_CONFIG_HOME XDG_DATA_HOME XDG_STATE_HOME XDG_CURRENT_DESKTOP
 
-# Only what this script started is ended, by its number.
+. "$tools/display.sh"
 started=()
-finish() {
-    local number
-    for number in "${started[@]}"; do
-        kill "$number" 2>/dev/null || true
-    done
-    rm -rf "$work"
-}
-trap finish EXIT
-
-Xvfb "$DISPLAY" -screen 0 1280x900x24 -nolisten tcp >/dev/null 2>&1 &
-started+=($!)
-for _ in $(seq 100); do
-    xdpyinfo >/dev/null 2>&1 && break
-    sleep 0.1
-done
-cat >"$HOME/.jwmrc" <<'JWM'
-<?xml version="1.0"?>
-<JWM><Key mask="A" key="F4">close</Key><FocusModel>click</FocusModel></JWM>
-JWM
-jwm >/dev/null 2>&1 &
-started+=($!)
+trap 'end_started; rm -rf "$work"' EXIT
+start_display 1280x900
 
 settle() { # time to paint
     sleep 0.6
@@ -57,25 +39,6 @@ shot() {
     step=$((step + 1))
     import -window root "$out/$(printf '%02d' "$step")-$1.png"
     echo "$(printf '%02d' "$step") $1"
-}
-await() { # the window of that title, visible
-    timeout 20 xdotool search --sync --onlyvisible --name "$1" | tail -1
-}
-gone() {
-    for _ in $(seq 50); do
-        xdotool search --onlyvisible --name "$1" >/dev/null 2>&1 || return 0
-        sleep 0.1
-    done
-    echo "the window $1 is still there" >&2
-    return 1
-}
-click() { # window x y
-    xdotool mousemove --window "$1" "$2" "$3" click 1
-    sleep 0.2
-}
-key() {
-    xdotool key "$@"
-    sleep 0.2
 }
 start() {
     (cd "$work/projects" && exec "$work/tarnvik" >>"$out/program.log" 2>&1) &

@@ -28,25 +28,10 @@ cp "$program" "$(dirname "$program")"/*.csv "$(dirname "$program")/tarnvik.folde
 export HOME=$work/home XDG_RUNTIME_DIR=$work/runtime LC_ALL=C.UTF-8 QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1
 unset XDG_CONFIG_HOME XDG_DATA_HOME XDG_STATE_HOME XDG_CURRENT_DESKTOP
 
-# Only what this script started is ended, by its number.
+. "$tools/display.sh"
 started=()
-finish() {
-    local number
-    for number in "${started[@]}"; do
-        kill "$number" 2>/dev/null || true
-    done
-    rm -rf "$work"
-}
-trap finish EXIT
-
-Xvfb "$DISPLAY" -screen 0 1280x900x24 -nolisten tcp >/dev/null 2>&1 &
-started+=($!)
-for _ in $(seq 100); do
-    xdotool getdisplaygeometry >/dev/null 2>&1 && break
-    sleep 0.1
-done
-jwm >/dev/null 2>&1 &
-started+=($!)
+trap 'end_started; rm -rf "$work"' EXIT
+start_display 1280x900
 /usr/libexec/at-spi-bus-launcher --launch-immediately >/dev/null 2>&1 &
 started+=($!)
 
@@ -55,7 +40,7 @@ for language in Eng Nor; do
     "$work/program/tarnvik" &
     window=$!
     started+=("$window")
-    timeout 20 xdotool search --sync --onlyvisible --name '^Tarnvik: ' >/dev/null
+    await '^Tarnvik: ' >/dev/null
     sleep 1
     timeout 120 /usr/bin/python3 "$tools/read_window.py" "$out/${language,,}"
     kill "$window"

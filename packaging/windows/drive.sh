@@ -23,12 +23,12 @@ export TARNVIK_WINDOWS=$work HOME=$work/home XDG_RUNTIME_DIR=$work/runtime LC_AL
 mkdir -p "$work/projects/bjørk" "$work/here" "$HOME" "$work/runtime"
 chmod 700 "$work/runtime"
 unset QT_QPA_PLATFORM XDG_CONFIG_HOME XDG_DATA_HOME XDG_STATE_HOME
+
+. tools/display.sh
 started=()
 finish() {
     WINEPREFIX=$work/wine /usr/lib/wine/wineserver64 -k 2>/dev/null || true
-    for number in "${started[@]}"; do
-        kill "$number" 2>/dev/null || true
-    done
+    end_started
     sleep 1
     rm -rf "$work"
 }
@@ -38,38 +38,8 @@ fail() {
     echo "drive.sh: $*" >&2
     exit 1
 }
+start_display 1920x1300
 
-Xvfb "$DISPLAY" -screen 0 1920x1300x24 -nolisten tcp >/dev/null 2>&1 &
-started+=($!)
-for _ in $(seq 100); do
-    xdpyinfo >/dev/null 2>&1 && break
-    sleep 0.1
-done
-cat >"$HOME/.jwmrc" <<'JWM'
-<?xml version="1.0"?>
-<JWM><Key mask="A" key="F4">close</Key><FocusModel>click</FocusModel></JWM>
-JWM
-jwm >/dev/null 2>&1 &
-started+=($!)
-
-await() { # the window of that title, visible
-    timeout 60 xdotool search --sync --onlyvisible --name "$1" | tail -1 || fail "no window $1"
-}
-gone() {
-    for _ in $(seq 100); do
-        xdotool search --onlyvisible --name "$1" >/dev/null 2>&1 || return 0
-        sleep 0.1
-    done
-    fail "the window $1 is still there"
-}
-click() { # window x y
-    xdotool mousemove --window "$1" $(($2 * dpi / 96)) $(($3 * dpi / 96)) click 1
-    sleep 0.4
-}
-key() {
-    xdotool key "$@"
-    sleep 0.4
-}
 enter() {
     xdotool type --delay 40 "$1"
     sleep 0.4

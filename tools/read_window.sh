@@ -5,7 +5,7 @@
 #
 # PROGRAM is build/release/bin/tarnvik unless given. It runs as a copy in a folder of its own with a home of its own, on a
 # display and a session bus of its own (READ_DISPLAY, :89 unless set). OUTPUT_FOLDER gets eng/ and nor/ with tree.txt and
-# events.txt each. Needs the Debian packages xvfb, jwm, xdotool, dbus, at-spi2-core, python3-gi and gir1.2-atspi-2.0.
+# events.txt each. Needs the Debian packages xvfb, jwm, xdotool, x11-utils, dbus, at-spi2-core, python3-gi and gir1.2-atspi-2.0.
 set -euo pipefail
 
 if [ $# -lt 1 ] || [ $# -gt 2 ]; then
